@@ -1,0 +1,1 @@
+// Holds the delivered file set as Qt resources (see CMakeLists.txt).

@@ -1,0 +1,1 @@
+// Holds the pictures of the windows as Qt resources (see CMakeLists.txt).

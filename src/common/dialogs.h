@@ -1,0 +1,48 @@
+#pragma once
+// Every message box, question and input box of the program goes through this
+// one interface, so that titles, texts, buttons and defaults are contracts
+// that tests can read back. The real implementation shows Qt dialogs; tests
+// use a scripted one.
+#include <QString>
+#include <QUrl>
+
+// Button sets and icons keep the classic message-box values.
+enum class Buttons { Ok = 0, OkCancel = 1, YesNoCancel = 3, YesNo = 4 };
+enum class Icon { None = 0, Stop = 16, Question = 32, Exclamation = 48, Information = 64 };
+// Answers keep their numbers: OK 1, Cancel 2, Yes 6, No 7.
+enum class Answer { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
+
+struct Message {
+    QString title;
+    QString text;
+    Buttons buttons = Buttons::Ok;
+    Icon icon = Icon::None;
+    // 1-based index into the button set, as a message box's default button.
+    int defaultButton = 1;
+
+    bool operator==(const Message&) const = default;
+};
+
+struct InputRequest {
+    QString title;
+    QString prompt;
+    QString defaultText;
+
+    bool operator==(const InputRequest&) const = default;
+};
+
+class Dialogs {
+public:
+    virtual ~Dialogs() = default;
+    virtual Answer ask(const Message& message) = 0;
+    // The text typed; the empty text when the user cancelled, as an input box.
+    virtual QString input(const InputRequest& request) = 0;
+    // Opens an address in the user's browser.
+    virtual void openUrl(const QUrl& url) = 0;
+
+    // A message with only an OK button.
+    void tell(const QString& title, const QString& text, Icon icon = Icon::None)
+    {
+        ask({title, text, Buttons::Ok, icon, 1});
+    }
+};

@@ -1,0 +1,49 @@
+#include "common/randomaccessfile.h"
+
+#include "common/programfolder.h"
+
+RandomAccessFile::RandomAccessFile(const QString& name, int recordLength)
+    : file_(ResolveFileName(name)), recordLength_(recordLength > 0 ? recordLength : 1)
+{
+    if (!file_.open(QIODevice::ReadWrite))
+        (void)file_.open(QIODevice::ReadOnly); // a read-only file still reads
+}
+
+qint64 RandomAccessFile::recordCount() const
+{
+    if (!file_.isOpen())
+        return 0;
+    return (file_.size() + recordLength_ - 1) / recordLength_;
+}
+
+QByteArray RandomAccessFile::read(qint64 recordNumber)
+{
+    return readRecords(recordNumber, 1);
+}
+
+QByteArray RandomAccessFile::readRecords(qint64 firstRecord, qint64 count)
+{
+    if (count < 1)
+        return {};
+    QByteArray out(count * recordLength_, '\0');
+    if (firstRecord < 1 || !file_.isOpen())
+        return out;
+    const qint64 offset = (firstRecord - 1) * recordLength_;
+    if (offset >= file_.size() || !file_.seek(offset))
+        return out;
+    const qint64 got = file_.read(out.data(), out.size());
+    if (got < out.size())
+        std::fill(out.begin() + std::max<qint64>(got, 0), out.end(), '\0');
+    return out;
+}
+
+bool RandomAccessFile::write(qint64 recordNumber, QByteArrayView bytes)
+{
+    if (recordNumber < 1 || !file_.isOpen() || !file_.isWritable())
+        return false;
+    QByteArray record(recordLength_, '\0');
+    std::copy_n(bytes.begin(), std::min<qsizetype>(bytes.size(), recordLength_), record.begin());
+    if (!file_.seek((recordNumber - 1) * recordLength_))
+        return false;
+    return file_.write(record) == record.size() && file_.flush();
+}

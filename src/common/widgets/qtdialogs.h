@@ -1,0 +1,13 @@
+#pragma once
+#include "common/dialogs.h"
+
+class QWidget;
+
+// The real dialogs: QMessageBox and QInputDialog with the exact title, text,
+// icon, buttons and default button asked for.
+class QtDialogs final : public Dialogs {
+public:
+    Answer ask(const Message& message) override;
+    QString input(const InputRequest& request) override;
+    void openUrl(const QUrl& url) override;
+};
