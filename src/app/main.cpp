@@ -1,1 +1,23 @@
-int main() { return 0; }
+// Brindlepot: a kitchen program for the family.
+#include "common/programfolder.h"
+#include "common/widgets/qtdialogs.h"
+#include "shell/logic/deliveredfiles.h"
+#include "shell/screens/screenmetrics.h"
+#include "shell/screens/startfrm.h"
+
+#include <QApplication>
+
+int main(int argc, char** argv)
+{
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Brindlepot"));
+    QApplication::setApplicationVersion(QStringLiteral("7.0"));
+
+    InstallDeliveredFiles(ProgramFolder());
+    QtDialogs dialogs;
+    SystemScreenMetrics screen;
+    Startfrm startfrm(dialogs, screen);
+    QObject::connect(&startfrm, &Startfrm::exitConfirmed, &app, [] { QApplication::exit(0); });
+    startfrm.show();
+    return app.exec();
+}

@@ -1,0 +1,46 @@
+#include "shell/logic/background.h"
+
+#include "shell/logic/settingsslots.h"
+
+namespace {
+constexpr int kBackgroundSlot = 3;
+constexpr int kLastPanelColorSlot = 49;
+}
+
+int Background::pictureNumber() const
+{
+    if (kind != Kind::Picture)
+        return 0;
+    bool ok = false;
+    const int number = picture.mid(2).trimmed().toInt(&ok);
+    return ok && number >= 1 && number <= 16 ? number : 0;
+}
+
+Background ReadStoredBackground()
+{
+    Background background;
+    const TaggedValue stored = ReadSlotTagged(GQORB1, kBackgroundSlot);
+    if (const auto* number = std::get_if<qint32>(&stored)) {
+        background.color = *number;
+    } else if (const auto* text = std::get_if<QString>(&stored)) {
+        QString trimmedRight = *text;
+        while (trimmedRight.endsWith(u' '))
+            trimmedRight.chop(1);
+        if (trimmedRight == QLatin1String("Def")) {
+            background.kind = Background::Kind::Standard;
+        } else if (text->left(2).compare(QLatin1String("WP"), Qt::CaseInsensitive) == 0) {
+            background.kind = Background::Kind::Picture;
+            background.picture = *text;
+        } else {
+            // Any other text stands for a colour number, as the value itself.
+            background.color = text->trimmed().toInt();
+        }
+    }
+    return background;
+}
+
+QString ReadLastPanelColor()
+{
+    const QString stored = ReadSlotText(GColor1, kLastPanelColorSlot);
+    return stored.isEmpty() ? QStringLiteral("Default") : stored;
+}

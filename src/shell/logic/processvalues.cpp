@@ -1,0 +1,7 @@
+#include "shell/logic/processvalues.h"
+
+ProcessValues& Process()
+{
+    static ProcessValues values;
+    return values;
+}

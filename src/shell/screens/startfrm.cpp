@@ -1,0 +1,457 @@
+#include "shell/screens/startfrm.h"
+
+#include "common/dates.h"
+#include "common/dialogs.h"
+#include "common/programfolder.h"
+#include "common/widgets/commandbutton.h"
+#include "common/widgets/qtcolors.h"
+#include "common/widgets/twips.h"
+#include "shell/logic/familyname.h"
+#include "shell/logic/processvalues.h"
+#include "shell/logic/settingsslots.h"
+#include "shell/logic/windowsettings.h"
+#include "shell/screens/about1.h"
+#include "shell/screens/helpwindow.h"
+#include "shell/screens/screenmetrics.h"
+#include "shell/screens/splash1.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QContextMenuEvent>
+#include <QFrame>
+#include <QGridLayout>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int kPanelRaiseTwips = 400; // the command panel sits this far above the centre
+
+// The nine buttons in index order, each with the menu entry it shares its
+// command with.
+struct MainButton {
+    const char* caption;
+    const char* action;
+};
+constexpr MainButton kButtons[] = {
+    {"&Recipe File", "mRecipeFiles"},       {"&Food Guide", "mFoodGuide"},
+    {"Food &Meas. Guide", "mMeasGuide"},    {"Menu &Planner", "mMenuPlanner"},
+    {"&Shopping List Maker", "mShoppingList"}, {"&Help", "mOverview"},
+    {"&Weight Tracker", "mWeightTracker"},  {"E&xit", "mExit"},
+    {"&Emergency Storage", "mEmergency"},
+};
+// Where each button index stands in the 3 x 3 panel (row, column).
+constexpr int kButtonCell[][2] = {{0, 0}, {0, 1}, {0, 2}, {1, 0}, {1, 1}, {2, 1}, {1, 2}, {2, 2}, {2, 0}};
+
+QString ScreenTooSmallText()
+{
+    return QStringLiteral("Monitor Resolution Settings (Screen Area) and Program Size requirements are at "
+                          "least 800 by 600 or Higher.\nIf you do not set your screen resolution to this "
+                          "setting or higher this program will not function properly!");
+}
+
+QString FamilyNamePrompt()
+{
+    return QStringLiteral("Please Enter Family Name for use in the Various Program areas.\nTo Accept name,\n"
+                          "click OK.\nTo Delete name,\nclick Cancel or press <Esc> key.");
+}
+
+} // namespace
+
+Startfrm::Startfrm(Dialogs& dialogs, const ScreenMetrics& screen, QWidget* parent)
+    : QMainWindow(parent), dialogs_(dialogs), screen_(screen)
+{
+    setObjectName(QStringLiteral("Startfrm"));
+    setWindowIcon(QIcon(QStringLiteral(":/screens/brindlepot.png")));
+    central_ = new QWidget(this);
+    central_->setObjectName(QStringLiteral("MainArea"));
+    central_->setAutoFillBackground(true);
+    central_->installEventFilter(this);
+    setCentralWidget(central_);
+    image1_ = new QLabel(central_);
+    image1_->setObjectName(QStringLiteral("Image1"));
+    image1_->setScaledContents(true);
+    image1_->hide();
+
+    buildMenus();
+    buildCommandPanel();
+
+    auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    connect(escape, &QShortcut::activated, this, &Startfrm::exitProgram);
+    auto* f1 = new QShortcut(QKeySequence(Qt::Key_F1), this);
+    connect(f1, &QShortcut::activated, this, [this] { showHelp(kOverviewTopic); });
+
+    runStart();
+}
+
+QAction* Startfrm::addCommand(QMenu* menu, const char* objectName, const QString& caption)
+{
+    QAction* action = menu->addAction(caption);
+    action->setObjectName(QString::fromLatin1(objectName));
+    return action;
+}
+
+void Startfrm::buildMenus()
+{
+    optionsMenu_ = menuBar()->addMenu(QStringLiteral("&Options"));
+    optionsMenu_->setObjectName(QStringLiteral("mOptions"));
+    // The background selector comes with the panel colour screens.
+    addCommand(optionsMenu_, "mBackground", QStringLiteral("&Background Selector"))->setEnabled(false);
+    QMenu* display = optionsMenu_->addMenu(QStringLiteral("&Program Display"));
+    display->setObjectName(QStringLiteral("mProgramDisplay"));
+    mFullScreen_ = addCommand(display, "mFullScreen", QStringLiteral("&Full Screen Display"));
+    mSmallerScreen_ = addCommand(display, "mSmallerScreen", QStringLiteral("&Smaller Screen Display"));
+    display->addSeparator();
+    mDefaultSize_ = addCommand(display, "mDefaultSize", QStringLiteral("&Default Screen Size"));
+    for (QAction* tickable : {mFullScreen_, mSmallerScreen_, mDefaultSize_})
+        tickable->setCheckable(true);
+    connect(mFullScreen_, &QAction::triggered, this, &Startfrm::fullScreenDisplay);
+    connect(mSmallerScreen_, &QAction::triggered, this, &Startfrm::smallerScreenDisplay);
+    connect(mDefaultSize_, &QAction::triggered, this, &Startfrm::defaultScreenSize);
+    optionsMenu_->addSeparator();
+    connect(addCommand(optionsMenu_, "mFamilyName", QStringLiteral("&Family Name")), &QAction::triggered, this,
+            &Startfrm::askFamilyName);
+    optionsMenu_->addSeparator();
+    connect(addCommand(optionsMenu_, "mExit", QStringLiteral("E&xit")), &QAction::triggered, this,
+            &Startfrm::exitProgram);
+
+    // The activity screens; an entry whose screen is not built yet stays disabled.
+    QMenu* activities = menuBar()->addMenu(QStringLiteral("Brindlepot"));
+    activities->setObjectName(QStringLiteral("mBrindlepot"));
+    const auto addActivity = [&](const char* name, const char* caption) {
+        addCommand(activities, name, QString::fromLatin1(caption))->setEnabled(false);
+    };
+    addActivity("mRecipeFiles", "&Recipe Files");
+    addActivity("mFoodGuide", "&Food Guide");
+    activities->addSeparator();
+    addActivity("mMeasGuide", "Food &Measurement Guide");
+    activities->addSeparator();
+    addActivity("mMenuPlanner", "Menu &Planner");
+    addActivity("mShoppingList", "&Shopping List Maker");
+    activities->addSeparator();
+    addActivity("mEmergency", "&Emergency Food Storage");
+    activities->addSeparator();
+    addActivity("mWeightTracker", "Weight Tracker");
+
+    QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
+    help->setObjectName(QStringLiteral("mHelp"));
+    connect(addCommand(help, "mOverview", QStringLiteral("&Program Overview")), &QAction::triggered, this,
+            [this] { showHelp(kOverviewTopic); });
+    help->addSeparator();
+    connect(addCommand(help, "mBackupRestore", QStringLiteral("&Backup and Restore Option")), &QAction::triggered,
+            this, [this] { showHelp(kBackupTopic); });
+    help->addSeparator();
+    connect(addCommand(help, "mAbout", QStringLiteral("&About Brindlepot")), &QAction::triggered, this,
+            &Startfrm::showAbout);
+    help->addSeparator();
+    connect(addCommand(help, "mWeb", QStringLiteral("Tollenmark on the &Web")), &QAction::triggered, this,
+            &Startfrm::openWebSite);
+}
+
+void Startfrm::buildCommandPanel()
+{
+    commandPanel_ = new QFrame(central_);
+    commandPanel_->setObjectName(QStringLiteral("SSPanel1"));
+    commandPanel_->setFrameStyle(QFrame::Panel | QFrame::Raised);
+    commandPanel_->setLineWidth(3);
+    commandPanel_->setAutoFillBackground(true);
+
+    auto* title = new QLabel(QStringLiteral(" Brindlepot"), commandPanel_);
+    title->setObjectName(QStringLiteral("Label1"));
+    QFont titleFont(QStringLiteral("Liberation Serif"), 30, QFont::Bold, true);
+    title->setFont(titleFont);
+    title->setAlignment(Qt::AlignCenter);
+    auto* version = new QLabel(QStringLiteral(" Version 6.2"), commandPanel_);
+    version->setObjectName(QStringLiteral("Label2"));
+    version->setFont(QFont(QStringLiteral("Liberation Serif"), 12, QFont::Bold));
+    version->setAlignment(Qt::AlignCenter);
+
+    auto* grid = new QGridLayout;
+    grid->setSpacing(10);
+    QFont buttonFont(QStringLiteral("Liberation Sans"), 11, QFont::Bold);
+    QWidget* previous = nullptr;
+    for (int i = 0; i < int(std::size(kButtons)); ++i) {
+        auto* button = new QPushButton(QString::fromLatin1(kButtons[i].caption), commandPanel_);
+        button->setObjectName(QStringLiteral("Command1_%1").arg(i));
+        button->setFont(buttonFont);
+        button->setMinimumSize(210, 46);
+        button->setAutoDefault(false);
+        BindButtonToAction(button, findChild<QAction*>(QString::fromLatin1(kButtons[i].action)));
+        grid->addWidget(button, kButtonCell[i][0], kButtonCell[i][1]);
+        if (previous)
+            setTabOrder(previous, button); // tab order follows the index, not the grid
+        previous = button;
+    }
+
+    auto* layout = new QVBoxLayout(commandPanel_);
+    layout->setContentsMargins(24, 16, 24, 24);
+    layout->addWidget(title);
+    layout->addWidget(version);
+    layout->addSpacing(14);
+    layout->addLayout(grid);
+    commandPanel_->adjustSize();
+}
+
+int Startfrm::twips(int pixelCount) const
+{
+    return PixelsToTwips(pixelCount, this);
+}
+
+int Startfrm::pixels(int twipCount) const
+{
+    return TwipsToPixels(twipCount, this);
+}
+
+// The start routine: at load and again after every change of the display mode.
+void Startfrm::runStart()
+{
+    starting_ = true;
+    ProcessValues& process = Process();
+    process.DateFormatMode = DateFormatModeFor(DateLocale());
+    EnterProgramFolder();
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+
+    const StoredWindow stored = ReadStoredWindow();
+    process.WindowedMode = stored.windowed ? kWindowedMode : kFullScreenMode;
+    process.WindowHeight = stored.height;
+    process.WindowWidth = stored.width;
+    if (stored.windowed) {
+        setMinimumSize(pixels(kMinWindowWidth), pixels(kMinWindowHeight));
+        setWindowState(Qt::WindowNoState);
+    } else {
+        setMinimumSize(0, 0);
+        setWindowState(Qt::WindowMaximized);
+    }
+    checkScreen();
+
+    loadBackground();
+    process.FamilyName = ReadFamilyName();
+    setWindowTitle(MainCaption(process.FamilyName));
+
+    if (!process.SplashShown) {
+        process.SplashShown = true;
+        (new Splash1)->show();
+    }
+    // The start values of SWR2.fil are read, as ever, though nothing uses
+    // them; reading also makes the file on a first run.
+    ReadSlotInteger(SWR2, 2);
+    ReadSlotText(SWR2, 3);
+    ReadSlotText(SWR2, 4);
+
+    updateDisplayTicks();
+    centreCommandPanel();
+    QApplication::restoreOverrideCursor();
+    starting_ = false;
+}
+
+void Startfrm::checkScreen()
+{
+    const QSize screen = screen_.sizeTwips();
+    if (ScreenTooSmall(screen.width(), screen.height())) {
+        dialogs_.tell(QStringLiteral("Program Display Option"), ScreenTooSmallText(), Icon::Exclamation);
+        switchToFullScreen();
+        return;
+    }
+    if (Process().WindowedMode == kWindowedMode) {
+        resize(pixels(Process().WindowWidth), pixels(Process().WindowHeight));
+        move(pixels(screen.width()) / 2 - width() / 2, pixels(screen.height()) / 2 - height() / 2);
+    }
+}
+
+void Startfrm::loadBackground()
+{
+    background_ = ReadStoredBackground();
+    Process().LastPanelColor = ReadLastPanelColor();
+    showBackground();
+}
+
+void Startfrm::showBackground()
+{
+    if (background_.kind == Background::Kind::Picture) {
+        // A missing picture leaves the image empty over the window's colour.
+        image1_->setPixmap(QPixmap(ResolveFileName(background_.pictureFile())));
+        image1_->setGeometry(central_->rect());
+        image1_->lower();
+        image1_->show();
+        return;
+    }
+    image1_->hide();
+    QPalette palette = central_->palette();
+    palette.setColor(QPalette::Window, background_.kind == Background::Kind::Standard
+                                           ? QApplication::palette("QLabel").color(QPalette::Window)
+                                           : ColorFromColorref(background_.color));
+    central_->setPalette(palette);
+}
+
+void Startfrm::centreCommandPanel()
+{
+    const QSize area = central_->size();
+    const QSize panel = commandPanel_->size();
+    commandPanel_->move(area.width() / 2 - panel.width() / 2,
+                        area.height() / 2 - panel.height() / 2 - pixels(kPanelRaiseTwips));
+    image1_->setGeometry(central_->rect());
+}
+
+void Startfrm::updateDisplayTicks()
+{
+    const bool windowed = Process().WindowedMode == kWindowedMode;
+    mFullScreen_->setChecked(!windowed);
+    mSmallerScreen_->setChecked(windowed);
+    mDefaultSize_->setChecked(false);
+}
+
+void Startfrm::focusGained()
+{
+    Process().WindowedMode = windowState() == Qt::WindowNoState ? kWindowedMode : kFullScreenMode;
+    updateDisplayTicks();
+    Process().DateFormatMode = DateFormatModeFor(DateLocale());
+    centreCommandPanel();
+    // Another screen's file dialog may have moved the current folder.
+    EnterProgramFolder();
+}
+
+void Startfrm::switchToFullScreen()
+{
+    Process().WindowedMode = kFullScreenMode;
+    WriteWindowMode(false);
+    updateDisplayTicks();
+    setMinimumSize(0, 0);
+    setWindowState(Qt::WindowMaximized);
+}
+
+void Startfrm::fullScreenDisplay()
+{
+    if (Process().WindowedMode == kFullScreenMode && isMaximized()) {
+        updateDisplayTicks(); // already ticked: nothing to do
+        return;
+    }
+    WriteWindowMode(false);
+    runStart();
+}
+
+void Startfrm::smallerScreenDisplay()
+{
+    if (Process().WindowedMode == kWindowedMode && !isMaximized()) {
+        updateDisplayTicks();
+        return;
+    }
+    WriteWindowMode(true);
+    runStart();
+}
+
+void Startfrm::defaultScreenSize()
+{
+    const QSize screen = screen_.sizeTwips();
+    const StoredWindow window = DefaultWindowFor(screen.width(), screen.height());
+    setWindowState(Qt::WindowNoState);
+    WriteWindowMode(true);
+    WriteWindowSize(window.height, window.width);
+    runStart();
+}
+
+void Startfrm::askFamilyName()
+{
+    const QString stored = ReadFamilyName();
+    Process().FamilyName = stored;
+    QString result = dialogs_.input({QStringLiteral("Family Name"), FamilyNamePrompt(), stored});
+    if (result.isEmpty() && !stored.isEmpty()) {
+        const Answer answer = dialogs_.ask({QStringLiteral("Family Name"),
+                                            QStringLiteral("Delete Family Name - %1?").arg(stored), Buttons::YesNo,
+                                            Icon::Question, 2});
+        if (answer != Answer::Yes)
+            result = stored;
+    }
+    Process().FamilyName = WriteFamilyName(result);
+    setWindowTitle(MainCaption(Process().FamilyName));
+}
+
+void Startfrm::exitProgram()
+{
+    const Answer answer = dialogs_.ask({QStringLiteral("Exit"), QStringLiteral("Do you wish to Exit Brindlepot?"),
+                                        Buttons::YesNoCancel, Icon::Question, 1});
+    if (answer != Answer::Yes)
+        return;
+    storeWindow();
+    emit exitConfirmed();
+}
+
+void Startfrm::storeWindow()
+{
+    ProcessValues& process = Process();
+    const bool windowed = windowState() == Qt::WindowNoState;
+    process.WindowedMode = windowed ? kWindowedMode : kFullScreenMode;
+    if (windowed) {
+        process.WindowHeight = qint16(std::max(twips(height()), kMinWindowHeight));
+        process.WindowWidth = qint16(std::max(twips(width()), kMinWindowWidth));
+    }
+    StoreWindow(windowed, process.WindowHeight, process.WindowWidth);
+}
+
+void Startfrm::showHelp(int topic)
+{
+    HelpWindow::showTopic(topic);
+}
+
+void Startfrm::showAbout()
+{
+    About1 about(dialogs_, this);
+    about.exec();
+}
+
+void Startfrm::openWebSite()
+{
+    dialogs_.openUrl(QUrl(QString::fromLatin1(kMakerWebAddress)));
+}
+
+void Startfrm::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+        focusGained();
+    } else if (event->type() == QEvent::WindowStateChange && !starting_) {
+        const auto previous = static_cast<QWindowStateChangeEvent*>(event)->oldState();
+        if (isMaximized()) {
+            WriteWindowSize(Process().WindowHeight, Process().WindowWidth);
+            fullScreenDisplay();
+        } else if ((previous & Qt::WindowMaximized) && !leftMaximisedOnce_
+                   && ReadSlotText(GColor3, 35) == QLatin1String("No")) {
+            leftMaximisedOnce_ = true;
+            WriteWindowMode(true);
+            Process().WindowedMode = kWindowedMode;
+            runStart();
+        }
+    }
+}
+
+void Startfrm::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    if (!starting_ && windowState() == Qt::WindowNoState && isVisible()) {
+        // The user is sizing the window: the minimum size keeps it at least
+        // 9000 by 12000 twips; what is left is remembered.
+        Process().WindowHeight = qint16(twips(height()));
+        Process().WindowWidth = qint16(twips(width()));
+        Process().WindowedMode = kWindowedMode;
+    }
+}
+
+bool Startfrm::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == central_ && event->type() == QEvent::Resize)
+        centreCommandPanel();
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void Startfrm::closeEvent(QCloseEvent* event)
+{
+    storeWindow();
+    event->accept();
+}
+
+void Startfrm::contextMenuEvent(QContextMenuEvent* event)
+{
+    optionsMenu_->popup(event->globalPos());
+}

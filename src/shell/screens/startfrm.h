@@ -1,0 +1,79 @@
+#pragma once
+// The main screen. It stays for the life of the process and opens every
+// activity from its nine buttons or its menus.
+#include "shell/logic/background.h"
+
+#include <QMainWindow>
+
+class About1;
+class Dialogs;
+class QAction;
+class QFrame;
+class QLabel;
+class QMenu;
+class QPushButton;
+class ScreenMetrics;
+
+class Startfrm final : public QMainWindow {
+    Q_OBJECT
+public:
+    // Topics of the help pages the main screen opens.
+    static constexpr int kOverviewTopic = 1000;
+    static constexpr int kBackupTopic = 1005;
+
+    Startfrm(Dialogs& dialogs, const ScreenMetrics& screen, QWidget* parent = nullptr);
+
+    // What the main screen does each time it gets the focus back: window
+    // mode ticks, date form, background size, panel position, program folder.
+    void focusGained();
+
+signals:
+    // The user confirmed "E&xit": the window is stored, the process ends.
+    void exitConfirmed();
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QAction* addCommand(QMenu* menu, const char* objectName, const QString& caption);
+    void buildMenus();
+    void buildCommandPanel();
+
+    void runStart();
+    void checkScreen();
+    void loadBackground();
+    void showBackground();
+    void centreCommandPanel();
+    void updateDisplayTicks();
+    int twips(int pixels) const;
+    int pixels(int twips) const;
+
+    void fullScreenDisplay();
+    void smallerScreenDisplay();
+    void defaultScreenSize();
+    void switchToFullScreen();
+    void askFamilyName();
+    void exitProgram();
+    void storeWindow();
+    void showHelp(int topic);
+    void showAbout();
+    void openWebSite();
+
+    Dialogs& dialogs_;
+    const ScreenMetrics& screen_;
+    Background background_;
+    bool starting_ = false;          // blocks the resize rules while the start runs
+    bool leftMaximisedOnce_ = false; // the restart after leaving full screen runs once
+
+    QWidget* central_ = nullptr;
+    QLabel* image1_ = nullptr;       // background picture
+    QFrame* commandPanel_ = nullptr;
+    QMenu* optionsMenu_ = nullptr;
+    QAction* mFullScreen_ = nullptr;
+    QAction* mSmallerScreen_ = nullptr;
+    QAction* mDefaultSize_ = nullptr;
+};
