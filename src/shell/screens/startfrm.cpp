@@ -158,6 +158,10 @@ void Startfrm::buildCommandPanel()
     commandPanel_->setFrameStyle(QFrame::Panel | QFrame::Raised);
     commandPanel_->setLineWidth(3);
     commandPanel_->setAutoFillBackground(true);
+    // The panel keeps the standard colour whatever the window's background is.
+    QPalette standard = QApplication::palette(commandPanel_);
+    standard.setColor(QPalette::Window, standard.color(QPalette::Window)); // pinned, not inherited
+    commandPanel_->setPalette(standard);
 
     auto* title = new QLabel(QStringLiteral(" Brindlepot"), commandPanel_);
     title->setObjectName(QStringLiteral("Label1"));
@@ -222,8 +226,7 @@ void Startfrm::runStart()
         setMinimumSize(pixels(kMinWindowWidth), pixels(kMinWindowHeight));
         setWindowState(Qt::WindowNoState);
     } else {
-        setMinimumSize(0, 0);
-        setWindowState(Qt::WindowMaximized);
+        showMaximisedOnScreen();
     }
     checkScreen();
 
@@ -318,7 +321,16 @@ void Startfrm::switchToFullScreen()
     Process().WindowedMode = kFullScreenMode;
     WriteWindowMode(false);
     updateDisplayTicks();
+    showMaximisedOnScreen();
+}
+
+void Startfrm::showMaximisedOnScreen()
+{
+    // Sized to the screen first, so the window fills it even where no window
+    // manager carries out the maximised state.
     setMinimumSize(0, 0);
+    const QSize screen = screen_.sizeTwips();
+    setGeometry(0, 0, pixels(screen.width()), pixels(screen.height()));
     setWindowState(Qt::WindowMaximized);
 }
 

@@ -56,6 +56,7 @@ private:
     void smallerScreenDisplay();
     void defaultScreenSize();
     void switchToFullScreen();
+    void showMaximisedOnScreen();
     void askFamilyName();
     void exitProgram();
     void storeWindow();
