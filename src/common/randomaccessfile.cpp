@@ -39,11 +39,17 @@ QByteArray RandomAccessFile::readRecords(qint64 firstRecord, qint64 count)
 
 bool RandomAccessFile::write(qint64 recordNumber, QByteArrayView bytes)
 {
-    if (recordNumber < 1 || !file_.isOpen() || !file_.isWritable())
+    return writeRecords(recordNumber, bytes.first(std::min<qsizetype>(bytes.size(), recordLength_)));
+}
+
+bool RandomAccessFile::writeRecords(qint64 firstRecord, QByteArrayView bytes)
+{
+    if (firstRecord < 1 || !file_.isOpen() || !file_.isWritable())
         return false;
-    QByteArray record(recordLength_, '\0');
-    std::copy_n(bytes.begin(), std::min<qsizetype>(bytes.size(), recordLength_), record.begin());
-    if (!file_.seek((recordNumber - 1) * recordLength_))
+    const qsizetype records = std::max<qsizetype>(1, (bytes.size() + recordLength_ - 1) / recordLength_);
+    QByteArray block(records * recordLength_, '\0');
+    std::copy(bytes.begin(), bytes.end(), block.begin());
+    if (!file_.seek((firstRecord - 1) * recordLength_))
         return false;
-    return file_.write(record) == record.size() && file_.flush();
+    return file_.write(block) == block.size() && file_.flush();
 }

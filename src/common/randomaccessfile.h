@@ -27,6 +27,9 @@ public:
     // Writes the whole record: `bytes` cut or zero-padded to the record
     // length. Returns false when the write failed or the number is below 1.
     bool write(qint64 recordNumber, QByteArrayView bytes);
+    // Consecutive whole records from `firstRecord` in one write; `bytes` is
+    // zero-padded to a whole number of records.
+    bool writeRecords(qint64 firstRecord, QByteArrayView bytes);
 
 private:
     QFile file_;

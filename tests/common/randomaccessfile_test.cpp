@@ -114,7 +114,8 @@ TEST(SlotValues, TaggedKindsOtherThanThreeAndEightAreEmpty)
     EXPECT_EQ(DecodeSlotTagged(QByteArray("\x02\x00\x05\x00", 4)), TaggedValue{});
     EXPECT_EQ(DecodeSlotTagged(QByteArray("\x03\x00\x05\x00", 4)), TaggedValue{}) << "integer cut short";
     EXPECT_EQ(DecodeSlotTagged(QByteArray("\x03\x00\xFF\xFF\xFF\xFF", 6)), TaggedValue(qint32(-1)));
-    EXPECT_EQ(DecodeSlotTagged(QByteArray("\x08\x00\x09\x00" "abc", 7)), TaggedValue{});
+    EXPECT_EQ(DecodeSlotTagged(QByteArray("\x08\x00\x09\x00" "abc", 7)), TaggedValue(QString()))
+        << "a text longer than its slot reads as the empty text";
     EXPECT_EQ(EncodeSlotTagged(TaggedValue{}), QByteArray("\x00\x00", 2));
 }
 
@@ -128,8 +129,9 @@ TEST(SlotValues, RandomBytesNeverCrashTheDecoders)
         EXPECT_LE(DecodeSlotText(bytes).size(), qMax<qsizetype>(0, bytes.size() - 2));
         DecodeSlotInteger(bytes);
         const TaggedValue tagged = DecodeSlotTagged(bytes);
-        if (const auto* text = std::get_if<QString>(&tagged))
+        if (const auto* text = std::get_if<QString>(&tagged)) {
             EXPECT_LE(text->size(), qMax<qsizetype>(0, bytes.size() - 4));
+        }
     }
 }
 

@@ -197,8 +197,9 @@ TEST(SettingsFiles, RandomAndTruncatedBytesNeverCrashAReader)
             EXPECT_LE(text.size(), 8);
             ReadSlotInteger(GQORB1, slot);
             const TaggedValue tagged = ReadSlotTagged(GQORB1, slot);
-            if (const auto* t = std::get_if<QString>(&tagged))
+            if (const auto* t = std::get_if<QString>(&tagged)) {
                 EXPECT_LE(t->size(), 6);
+            }
         }
         ReadStoredBackground();
     }
@@ -220,6 +221,8 @@ TEST(Background, StoredForms)
         {"Def with trailing blanks", QString("Def   "), Background::Kind::Standard, kDefaultBackgroundColor, 0},
         {"picture", QString("WP7"), Background::Kind::Picture, kDefaultBackgroundColor, 7},
         {"picture in lower case", QString("wp16"), Background::Kind::Picture, kDefaultBackgroundColor, 16},
+        {"colour number as text", QString("255"), Background::Kind::Color, 255, 0},
+        {"text that is no colour", QString("1E30"), Background::Kind::Color, 0, 0},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);

@@ -48,7 +48,7 @@ protected:
         Process().SplashShown = true; // only the splash test wants to see it
         SetDateLocale(QLocale(QLocale::English, QLocale::UnitedStates));
     }
-    ~StartfrmTest() override { SetDateLocale(QLocale::system()); }
+    ~StartfrmTest() override { SetDateLocale(QLocale()); }
 
     QAction* action(Startfrm& form, const char* name) { return form.findChild<QAction*>(name); }
     QPushButton* button(Startfrm& form, int index)

@@ -1,5 +1,6 @@
 #include "shell/logic/background.h"
 
+#include "common/numbertext.h"
 #include "shell/logic/settingsslots.h"
 
 namespace {
@@ -32,8 +33,9 @@ Background ReadStoredBackground()
             background.kind = Background::Kind::Picture;
             background.picture = *text;
         } else {
-            // Any other text stands for a colour number, as the value itself.
-            background.color = text->trimmed().toInt();
+            // Any other text is taken as a colour number.
+            const double number = Val(*text);
+            background.color = number >= 0 && number <= 0xFFFFFF ? qint32(number) : 0;
         }
     }
     return background;

@@ -1,0 +1,126 @@
+#include "cookbook/logic/cookbookfiles.h"
+
+#include "common/randomaccessfile.h"
+#include "cookbook/logic/nameentry.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+// Records per read when scanning a whole file: 256 recipe records are about
+// half a megabyte, large enough that the scan costs what a plain read does.
+constexpr qint64 kRecipeScanBlock = 256;
+constexpr qint64 kNameReadBlock = 4096;
+
+void LetPendingEventsRun()
+{
+    if (QCoreApplication::instance())
+        QCoreApplication::processEvents();
+}
+
+} // namespace
+
+StoredRecipe ReadRecipe(int cookbook, RecordNumber recordNumber)
+{
+    RandomAccessFile recipes(RecipeFileName(cookbook), RecipeRecord::kSize);
+    RandomAccessFile extras(ExtraFileName(cookbook), RecipeExtraRecord::kSize);
+    StoredRecipe stored;
+    stored.record = RecipeRecord::FromBytes(recipes.read(recordNumber));
+    stored.picturePath = RecipeExtraRecord::FromBytes(extras.read(recordNumber)).picturePath();
+    return stored;
+}
+
+bool WriteRecipe(int cookbook, RecordNumber recordNumber, const RecipeRecord& record,
+                 QStringView picturePath)
+{
+    RandomAccessFile recipes(RecipeFileName(cookbook), RecipeRecord::kSize);
+    RandomAccessFile extras(ExtraFileName(cookbook), RecipeExtraRecord::kSize);
+    const bool recipeWritten = recipes.write(recordNumber, record.toBytes());
+    RecipeExtraRecord extra;
+    const bool extraWritten =
+        extra.setPicturePath(picturePath) && extras.write(recordNumber, extra.toBytes());
+    return recipeWritten && extraWritten;
+}
+
+RecordNumber FindFreeSlot(int cookbook)
+{
+    RandomAccessFile recipes(RecipeFileName(cookbook), RecipeRecord::kSize);
+    const qint64 present = std::min<qint64>(recipes.recordCount(), kLastScannedSlot);
+    // Only the five mark bytes of each record decide; the records are read
+    // in blocks because a whole file of used slots is tens of megabytes.
+    for (qint64 first = 1; first <= present; first += kRecipeScanBlock) {
+        const qint64 count = std::min(kRecipeScanBlock, present - first + 1);
+        const QByteArray block = recipes.readRecords(first, count);
+        const char* record = block.constData();
+        for (qint64 i = 0; i < count; ++i, record += RecipeRecord::kSize) {
+            if (!RecipeRecord::IsUsedMark(record + RecipeRecord::kSlotMarkOffset))
+                return RecordNumber(first + i);
+        }
+    }
+    // The first slot past the end, or 30001 when the scan ran through.
+    return RecordNumber(present + 1);
+}
+
+bool ClearRecipe(int cookbook, RecordNumber recordNumber)
+{
+    return WriteRecipe(cookbook, recordNumber, RecipeRecord::Cleared(), {});
+}
+
+QStringList ReadNameList(int cookbook, RecipeType type)
+{
+    RandomAccessFile names(NameFileName(cookbook, type), RecipeNameRecord::kSize);
+    const qint64 slotCount = names.recordCount();
+    QStringList entries;
+    for (qint64 first = 1; first <= slotCount; first += kNameReadBlock) {
+        const qint64 count = std::min(kNameReadBlock, slotCount - first + 1);
+        const QByteArray block = names.readRecords(first, count);
+        for (qint64 i = 0; i < count; ++i) {
+            const QByteArrayView slot(block.constData() + i * RecipeNameRecord::kSize,
+                                      RecipeNameRecord::kSize);
+            QString entry = RecipeNameRecord::FromBytes(slot).nameEntry();
+            if (!IsBlankText(entry))
+                entries.append(std::move(entry));
+        }
+    }
+    return entries;
+}
+
+QString ReadNameSlot(int cookbook, RecipeType type, int slot)
+{
+    RandomAccessFile names(NameFileName(cookbook, type), RecipeNameRecord::kSize);
+    return RecipeNameRecord::FromBytes(names.read(slot)).nameEntry();
+}
+
+bool RebuildNameFile(int cookbook, RecipeType type, const QStringList& entries,
+                     const QString& newEntry)
+{
+    const QString fileName = NameFileName(cookbook, type);
+    bool allWritten = true;
+    {
+        // Every slot there is, and one more, becomes a single blank.
+        RandomAccessFile names(fileName, RecipeNameRecord::kSize);
+        const QByteArray blank = RecipeNameRecord::Cleared().toBytes();
+        allWritten = names.writeRecords(1, blank.repeated(names.recordCount() + 1));
+    }
+    LetPendingEventsRun();
+    QByteArray block;
+    QStringList written;
+    for (const QString& entry : entries) {
+        if (entry.isEmpty())
+            break;
+        written << entry;
+    }
+    if (!newEntry.isEmpty())
+        written << newEntry;
+    for (const QString& entry : written) {
+        // An entry too long for its slot is skipped; its slot keeps the blank.
+        RecipeNameRecord record = RecipeNameRecord::Cleared();
+        allWritten = record.setNameEntry(entry) && allWritten;
+        block += record.toBytes();
+    }
+    if (!block.isEmpty()) {
+        RandomAccessFile names(fileName, RecipeNameRecord::kSize);
+        allWritten = names.writeRecords(1, block) && allWritten;
+    }
+    return allWritten;
+}
