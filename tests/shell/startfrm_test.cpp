@@ -273,6 +273,69 @@ TEST_F(StartfrmTest, StoredSizeZeroOpensAt9000By12000)
     EXPECT_EQ(form.height(), TwipsToPixels(9000, &form));
 }
 
+TEST_F(StartfrmTest, MaximisingTheWindowActsAsFullScreen)
+{
+    WriteSlotText(GColor3, 35, u"Yes");
+    WriteSlotInteger(GColor3, 36, 10080);
+    WriteSlotInteger(GColor3, 37, 14400);
+    Startfrm form(dialogs, screen);
+    form.show();
+    form.setWindowState(Qt::WindowMaximized);
+    EXPECT_EQ(ReadSlotText(GColor3, 35), "No");
+    EXPECT_EQ(ReadSlotInteger(GColor3, 36), 10080);
+    EXPECT_EQ(ReadSlotInteger(GColor3, 37), 14400);
+    EXPECT_EQ(Process().WindowedMode, 0);
+    EXPECT_TRUE(action(form, "mFullScreen")->isChecked());
+}
+
+TEST_F(StartfrmTest, LeavingTheMaximisedStateSwitchesToTheSmallerScreen)
+{
+    WriteSlotText(GColor3, 35, u"No");
+    Startfrm form(dialogs, screen);
+    form.show();
+    ASSERT_TRUE(form.isMaximized());
+    form.setWindowState(Qt::WindowNoState);
+    EXPECT_EQ(ReadSlotText(GColor3, 35), "Yes");
+    EXPECT_EQ(Process().WindowedMode, 9);
+    EXPECT_TRUE(action(form, "mSmallerScreen")->isChecked());
+    EXPECT_EQ(form.width(), TwipsToPixels(12000, &form));
+    EXPECT_EQ(form.height(), TwipsToPixels(9000, &form));
+}
+
+TEST_F(StartfrmTest, LeavingTheMaximisedStateWithNoChoiceStoredOnlyRemembersTheSize)
+{
+    Startfrm form(dialogs, screen);
+    form.show();
+    form.setWindowState(Qt::WindowNoState);
+    EXPECT_EQ(ReadSlotText(GColor3, 35), "") << "only a stored \"No\" switches the mode";
+    EXPECT_EQ(Process().WindowedMode, 9);
+}
+
+TEST_F(StartfrmTest, ResizingByHandKeepsTheMinimumAndRemembersTheSize)
+{
+    WriteSlotText(GColor3, 35, u"Yes");
+    Startfrm form(dialogs, screen);
+    form.show();
+    form.resize(TwipsToPixels(14400, &form), TwipsToPixels(10080, &form));
+    EXPECT_EQ(Process().WindowWidth, 14400);
+    EXPECT_EQ(Process().WindowHeight, 10080);
+    form.resize(100, 100);
+    EXPECT_EQ(form.width(), TwipsToPixels(12000, &form));
+    EXPECT_EQ(form.height(), TwipsToPixels(9000, &form));
+    EXPECT_EQ(Process().WindowWidth, 12000);
+}
+
+TEST_F(StartfrmTest, TheCommandPanelIsCentred400TwipsAboveTheMiddle)
+{
+    WriteSlotText(GColor3, 35, u"Yes");
+    Startfrm form(dialogs, screen);
+    form.show();
+    const QWidget* area = form.centralWidget();
+    const QWidget* panel = form.findChild<QWidget*>("SSPanel1");
+    EXPECT_EQ(panel->x(), area->width() / 2 - panel->width() / 2);
+    EXPECT_EQ(panel->y(), area->height() / 2 - panel->height() / 2 - TwipsToPixels(400, &form));
+}
+
 TEST_F(StartfrmTest, ScreenOf640By480WarnsAndRunsMaximised)
 {
     WriteSlotText(GColor3, 35, u"Yes");

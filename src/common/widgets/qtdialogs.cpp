@@ -20,12 +20,12 @@ QMessageBox::Icon ToQtIcon(Icon icon)
     return QMessageBox::NoIcon;
 }
 
-struct ButtonSpec {
+struct ButtonChoice {
     QMessageBox::StandardButton qt;
     Answer answer;
 };
 
-QList<ButtonSpec> ButtonsOf(Buttons buttons)
+QList<ButtonChoice> ButtonsOf(Buttons buttons)
 {
     switch (buttons) {
     case Buttons::Ok: return {{QMessageBox::Ok, Answer::Ok}};
@@ -43,22 +43,22 @@ Answer QtDialogs::ask(const Message& message)
 {
     QMessageBox box(ToQtIcon(message.icon), message.title, message.text, QMessageBox::NoButton,
                     QApplication::activeWindow());
-    const QList<ButtonSpec> specs = ButtonsOf(message.buttons);
-    for (int i = 0; i < specs.size(); ++i) {
-        QPushButton* button = box.addButton(specs[i].qt);
+    const QList<ButtonChoice> choices = ButtonsOf(message.buttons);
+    for (int i = 0; i < choices.size(); ++i) {
+        QPushButton* button = box.addButton(choices[i].qt);
         if (i + 1 == message.defaultButton)
             box.setDefaultButton(button);
     }
     // Closing the box answers as its cancel button would, or as the only one.
     const bool hasCancel = message.buttons == Buttons::OkCancel || message.buttons == Buttons::YesNoCancel;
-    box.setEscapeButton(box.button(hasCancel ? QMessageBox::Cancel : specs.last().qt));
+    box.setEscapeButton(box.button(hasCancel ? QMessageBox::Cancel : choices.last().qt));
     box.exec();
     const auto clicked = box.standardButton(box.clickedButton());
-    for (const ButtonSpec& spec : specs) {
-        if (spec.qt == clicked)
-            return spec.answer;
+    for (const ButtonChoice& choice : choices) {
+        if (choice.qt == clicked)
+            return choice.answer;
     }
-    return hasCancel ? Answer::Cancel : specs.last().answer;
+    return hasCancel ? Answer::Cancel : choices.last().answer;
 }
 
 QString QtDialogs::input(const InputRequest& request)

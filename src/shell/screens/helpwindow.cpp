@@ -2,6 +2,7 @@
 
 #include "common/programfolder.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QPointer>
@@ -25,8 +26,11 @@ HelpWindow::HelpWindow()
 HelpWindow* HelpWindow::showTopic(int topic)
 {
     static QPointer<HelpWindow> window;
-    if (!window)
+    if (!window) {
         window = new HelpWindow;
+        if (const QWidget* active = QApplication::activeWindow())
+            window->move(active->geometry().center() - window->rect().center());
+    }
     window->load(topic);
     window->show();
     window->raise();

@@ -421,32 +421,41 @@ void Startfrm::openWebSite()
 void Startfrm::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
         focusGained();
-    } else if (event->type() == QEvent::WindowStateChange && !starting_) {
-        const auto previous = static_cast<QWindowStateChangeEvent*>(event)->oldState();
-        if (isMaximized()) {
-            WriteWindowSize(Process().WindowHeight, Process().WindowWidth);
-            fullScreenDisplay();
-        } else if ((previous & Qt::WindowMaximized) && !leftMaximisedOnce_
-                   && ReadSlotText(GColor3, 35) == QLatin1String("No")) {
-            leftMaximisedOnce_ = true;
-            WriteWindowMode(true);
-            Process().WindowedMode = kWindowedMode;
-            runStart();
-        }
-    }
+    else if (event->type() == QEvent::WindowStateChange)
+        applyResizeRules(static_cast<QWindowStateChangeEvent*>(event)->oldState());
 }
 
 void Startfrm::resizeEvent(QResizeEvent* event)
 {
     QMainWindow::resizeEvent(event);
-    if (!starting_ && windowState() == Qt::WindowNoState && isVisible()) {
-        // The user is sizing the window: the minimum size keeps it at least
-        // 9000 by 12000 twips; what is left is remembered.
-        Process().WindowHeight = qint16(twips(height()));
-        Process().WindowWidth = qint16(twips(width()));
-        Process().WindowedMode = kWindowedMode;
+    applyResizeRules(windowState());
+}
+
+// What a change of the window's size or state means for the display mode.
+// The start routine sets size and state itself, so it is left alone then.
+void Startfrm::applyResizeRules(Qt::WindowStates previous)
+{
+    if (starting_)
+        return;
+    ProcessValues& process = Process();
+    if (isMaximized()) {
+        if (process.WindowedMode != kFullScreenMode) {
+            WriteWindowSize(process.WindowHeight, process.WindowWidth);
+            fullScreenDisplay();
+        }
+    } else if ((previous & Qt::WindowMaximized) && ReadSlotText(GColor3, 35) == QLatin1String("No")) {
+        WriteWindowMode(true);
+        process.WindowedMode = kWindowedMode;
+        runStart();
+    } else if (windowState() == Qt::WindowNoState) {
+        // The user is sizing the window; the minimum size keeps it at least
+        // 9000 by 12000 twips.
+        process.WindowHeight = qint16(twips(height()));
+        process.WindowWidth = qint16(twips(width()));
+        process.WindowedMode = kWindowedMode;
+        updateDisplayTicks();
     }
 }
 

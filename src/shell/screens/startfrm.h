@@ -44,6 +44,7 @@ private:
     void buildCommandPanel();
 
     void runStart();
+    void applyResizeRules(Qt::WindowStates previous);
     void checkScreen();
     void loadBackground();
     void showBackground();
@@ -68,7 +69,6 @@ private:
     const ScreenMetrics& screen_;
     Background background_;
     bool starting_ = false;          // blocks the resize rules while the start runs
-    bool leftMaximisedOnce_ = false; // the restart after leaving full screen runs once
 
     QWidget* central_ = nullptr;
     QLabel* image1_ = nullptr;       // background picture
