@@ -84,12 +84,3 @@ TaggedValue DecodeSlotTagged(QByteArrayView slot)
         return {};
     }
 }
-
-QString TaggedAsText(const TaggedValue& value)
-{
-    if (const auto* number = std::get_if<qint32>(&value))
-        return QString::number(*number);
-    if (const auto* text = std::get_if<QString>(&value))
-        return *text;
-    return {};
-}

@@ -26,6 +26,3 @@ qint16 DecodeSlotInteger(QByteArrayView slot);
 
 QByteArray EncodeSlotTagged(const TaggedValue& value);
 TaggedValue DecodeSlotTagged(QByteArrayView slot);
-
-// The text of a tagged value, or of its integer in decimal; empty for none.
-QString TaggedAsText(const TaggedValue& value);

@@ -58,8 +58,7 @@ QString ReadNameSlot(int cookbook, RecipeType type, int slot);
 //     cookbook operations; callers must expect re-entry here).
 //  3. `entries` go to slots 1, 2, 3 ... in order, up to the first empty one.
 //  4. A non-empty `newEntry` goes to the slot after them (slot 1 for none).
-// An entry that does not fit its slot is not written: its slot keeps the
-// blank of step 1, or zeros when it lies past the old end. The result is
-// then false.
+// An entry that does not fit its slot is not written: its slot holds a
+// single blank. The result is then false.
 bool RebuildNameFile(int cookbook, RecipeType type, const QStringList& entries,
                      const QString& newEntry = {});
