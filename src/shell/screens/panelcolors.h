@@ -1,0 +1,46 @@
+#pragma once
+// The panel colour of one screen: applying the stored colour when the screen
+// loads, the "Panel C&olor" command, and the question on closing. Every
+// screen names its slot and the widgets that take the colour.
+#include "shell/logic/panelcolor.h"
+
+#include <QColor>
+#include <QList>
+#include <QObject>
+#include <QPointer>
+
+class Dialogs;
+class QWidget;
+class ScreenStatusBar;
+
+class PanelColors final : public QObject {
+    Q_OBJECT
+public:
+    PanelColors(Dialogs& dialogs, const PanelColorSlot& slot, ScreenStatusBar* statusBar, QObject* parent);
+
+    // A panel, frame or option group that takes the colour.
+    void addPanel(QWidget* panel);
+
+    // Reads the slot and colours the panels; clears the changed flags.
+    void applyStored();
+    // "Panel C&olor": the question, the colour dialog, the conflict test.
+    void choosePanelColor();
+    // On closing the screen: asks "Save changes made to Panel Color?" when
+    // the colour was changed, stores it on Yes and offers it to all screens.
+    void offerToStoreOnClose();
+
+    bool changed() const { return changed_; }
+    bool isDefault() const { return isDefault_; }
+    QColor color() const { return color_; }
+
+private:
+    void paint(const QColor& color);
+
+    Dialogs& dialogs_;
+    PanelColorSlot slot_;
+    QPointer<ScreenStatusBar> statusBar_;
+    QList<QPointer<QWidget>> panels_;
+    QColor color_;
+    bool changed_ = false;    // PanelColorChanged
+    bool isDefault_ = false;  // PanelColorIsDefault
+};
