@@ -1,10 +1,13 @@
 #pragma once
-// Every message box, question and input box of the program goes through this
-// one interface, so that titles, texts, buttons and defaults are contracts
-// that tests can read back. The real implementation shows Qt dialogs; tests
+// Every message box, question, input box and colour dialog of the program
+// goes through this one interface, so that titles, texts, buttons and
+// defaults are contracts that tests can read back. The real implementation shows Qt dialogs; tests
 // use a scripted one.
 #include <QString>
 #include <QUrl>
+#include <QtGlobal>
+
+#include <optional>
 
 // Button sets and icons keep the classic message-box values.
 enum class Buttons { Ok = 0, OkCancel = 1, YesNoCancel = 3, YesNo = 4 };
@@ -39,6 +42,10 @@ public:
     virtual QString input(const InputRequest& request) = 0;
     // Opens an address in the user's browser.
     virtual void openUrl(const QUrl& url) = 0;
+    // The colour dialog, opened on `initial` (a COLORREF). The colour chosen,
+    // or nothing when the user cancelled: the one dialog failure the program
+    // handles (the old runtime's error 32755).
+    virtual std::optional<qint32> chooseColor(qint32 initial) = 0;
 
     // A message with only an OK button.
     void tell(const QString& title, const QString& text, Icon icon = Icon::None)

@@ -1,10 +1,12 @@
 // The real dialogs show exactly the title, text, icon, buttons and default
 // asked for, and answer with the classic numbers.
 #include "common/clock.h"
+#include "common/widgets/qtcolors.h"
 #include "common/widgets/qtdialogs.h"
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QColorDialog>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -89,6 +91,44 @@ TEST(QtDialogs, InputGivesTheTextOrEmptyOnCancel)
 
     WhenModalShows([](QWidget* modal) { qobject_cast<QInputDialog*>(modal)->reject(); });
     EXPECT_EQ(dialogs.input({"Family Name", "Enter a name", "Smith"}), "");
+}
+
+TEST(QtDialogs, ColorDialogOpensOnTheGivenColourAndGivesTheChosenOne)
+{
+    QtDialogs dialogs;
+    QColor offered;
+    WhenModalShows([&](QWidget* modal) {
+        auto* dialog = qobject_cast<QColorDialog*>(modal);
+        ASSERT_NE(dialog, nullptr);
+        offered = dialog->currentColor();
+        dialog->setCurrentColor(QColor(0x12, 0x34, 0x56));
+        dialog->accept();
+    });
+    const std::optional<qint32> chosen = dialogs.chooseColor(0x0000FF); // red in COLORREF order
+    EXPECT_EQ(offered, QColor(255, 0, 0));
+    ASSERT_TRUE(chosen.has_value());
+    EXPECT_EQ(*chosen, 0x563412);
+}
+
+TEST(QtDialogs, CancelledColorDialogGivesNothing)
+{
+    QtDialogs dialogs;
+    WhenModalShows([](QWidget* modal) {
+        auto* dialog = qobject_cast<QColorDialog*>(modal);
+        ASSERT_NE(dialog, nullptr);
+        dialog->setCurrentColor(Qt::green);
+        dialog->reject();
+    });
+    EXPECT_EQ(dialogs.chooseColor(0xFF0000), std::nullopt);
+}
+
+TEST(QtColors, ColorrefAndQColorRoundTrip)
+{
+    EXPECT_EQ(ColorrefFromColor(QColor(0, 0, 255)), 16711680);
+    EXPECT_EQ(ColorrefFromColor(QColor(255, 0, 0)), 255);
+    EXPECT_EQ(ColorrefFromColor(QColor(255, 0, 0, 40)), 255) << "alpha is dropped";
+    EXPECT_EQ(ColorrefFromColor(ColorFromColorref(0x00C0FFEE)), 0x00C0FFEE);
+    EXPECT_EQ(ColorFromColorref(0x800000), QColor(0, 0, 128));
 }
 
 TEST(Clock, FixedClockGivesTheTimeItWasSetTo)

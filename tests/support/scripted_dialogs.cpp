@@ -17,6 +17,11 @@ void ScriptedDialogs::expectInput(const QString& title, const QString& reply)
     script_.push_back(ExpectedInput{title, reply});
 }
 
+void ScriptedDialogs::expectColor(std::optional<qint32> reply)
+{
+    script_.push_back(ExpectedColor{reply});
+}
+
 Answer ScriptedDialogs::ask(const Message& message)
 {
     messages_.append(message);
@@ -48,4 +53,16 @@ QString ScriptedDialogs::input(const InputRequest& request)
 void ScriptedDialogs::openUrl(const QUrl& url)
 {
     urls_.append(url);
+}
+
+std::optional<qint32> ScriptedDialogs::chooseColor(qint32 initial)
+{
+    colorRequests_.append(initial);
+    if (script_.empty() || !std::holds_alternative<ExpectedColor>(script_.front())) {
+        ADD_FAILURE() << "unexpected colour dialog on colour " << initial;
+        return std::nullopt;
+    }
+    const ExpectedColor expected = std::get<ExpectedColor>(script_.front());
+    script_.pop_front();
+    return expected.reply;
 }

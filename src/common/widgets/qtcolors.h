@@ -3,3 +3,5 @@
 #include <QColor>
 
 QColor ColorFromColorref(qint32 colorref);
+// The COLORREF of a colour; its alpha is dropped.
+qint32 ColorrefFromColor(const QColor& color);

@@ -1,6 +1,9 @@
 #include "common/widgets/qtdialogs.h"
 
+#include "common/widgets/qtcolors.h"
+
 #include <QApplication>
+#include <QColorDialog>
 #include <QDesktopServices>
 #include <QInputDialog>
 #include <QMessageBox>
@@ -72,4 +75,12 @@ QString QtDialogs::input(const InputRequest& request)
 void QtDialogs::openUrl(const QUrl& url)
 {
     QDesktopServices::openUrl(url);
+}
+
+std::optional<qint32> QtDialogs::chooseColor(qint32 initial)
+{
+    QColorDialog dialog(ColorFromColorref(initial), QApplication::activeWindow());
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return ColorrefFromColor(dialog.selectedColor());
 }

@@ -52,7 +52,8 @@ struct SavedNewRecipe {
 // A new recipe: the lowest free slot, both files written there, then the
 // name file rebuilt from `currentNames` (the "Current Recipe Names" list, in
 // its order) with the new entry last. The name is cut to 41 characters and
-// its trailing blanks removed before the entry is made.
+// its trailing blanks removed before the entry is made. An empty name writes
+// nothing and gives record number 0 and no entry.
 SavedNewRecipe SaveNewRecipe(int cookbook, RecipeType type, const QString& name, const RecipeFields& fields,
                              const QString& picturePath, const QStringList& currentNames);
 
@@ -63,5 +64,6 @@ QStringList DeleteRecipe(int cookbook, RecipeType type, RecordNumber recordNumbe
 
 // Replaces the entry at `listIndex` by one for `newName` with the same record
 // number, sorts, and rebuilds the name file from the result. Returns it.
+// An empty new name changes nothing and gives the pick list back as it was.
 QStringList RenameRecipe(int cookbook, RecipeType type, RecordNumber recordNumber, QStringList pickList,
                          int listIndex, const QString& newName);

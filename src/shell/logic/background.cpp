@@ -41,6 +41,21 @@ Background ReadStoredBackground()
     return background;
 }
 
+void StoreBackground(const Background& background)
+{
+    switch (background.kind) {
+    case Background::Kind::Color:
+        WriteSlotTagged(GQORB1, kBackgroundSlot, background.color);
+        return;
+    case Background::Kind::Standard:
+        WriteSlotTagged(GQORB1, kBackgroundSlot, QStringLiteral("Def"));
+        return;
+    case Background::Kind::Picture:
+        WriteSlotTagged(GQORB1, kBackgroundSlot, background.picture);
+        return;
+    }
+}
+
 QString ReadLastPanelColor()
 {
     const QString stored = ReadSlotText(GColor1, kLastPanelColorSlot);

@@ -16,10 +16,23 @@ struct Background {
     QString pictureFile() const { return picture + QStringLiteral(".jpg"); }
     // 1 to 16 for a picture, 0 otherwise.
     int pictureNumber() const;
+
+    static Background colorOf(qint32 color) { return {Kind::Color, color, {}}; }
+    static Background standard() { return {Kind::Standard, kDefaultBackgroundColor, {}}; }
+    // "WP" and the number: the delivered pictures are WP1.jpg to WP16.jpg.
+    static Background pictureOf(int number) { return {Kind::Picture, kDefaultBackgroundColor, pictureName(number)}; }
+    static QString pictureName(int number) { return QStringLiteral("WP%1").arg(number); }
+
+    bool operator==(const Background&) const = default;
 };
+
+inline constexpr int kBackgroundPictureCount = 16;
 
 // An empty slot (or a missing file) gives blue.
 Background ReadStoredBackground();
+// A colour as the integer kind; the standard colour as the text "Def"; a
+// picture as its name.
+void StoreBackground(const Background& background);
 
 // GColor1.Fil slot 49: the last all-screens panel colour, "Default" when empty.
 QString ReadLastPanelColor();

@@ -33,6 +33,11 @@ public:
     bool isDefault() const { return isDefault_; }
     QColor color() const { return color_; }
 
+    // The system's standard panel colour: what a hidden standard label shows.
+    static QColor systemColor();
+    // The colour of the panels' own text, which the panels may not take.
+    QColor textColor() const;
+
 private:
     void paint(const QColor& color);
 

@@ -14,10 +14,21 @@ public:
     void setActivity(const QString& text);
     QString activity() const;
 
+    // The restore panels, shown while their toolbar is hidden.
+    void showTopToolbarRestore(bool shown);
+    void showSideToolbarsRestore(bool shown);
+    bool topToolbarRestoreShown() const;
+    bool sideToolbarsRestoreShown() const;
+
 signals:
     void restoreTopToolbarClicked();
     void restoreSideToolbarsClicked();
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     QLabel* activity_ = nullptr;
+    QLabel* restoreTop_ = nullptr;
+    QLabel* restoreSide_ = nullptr;
 };

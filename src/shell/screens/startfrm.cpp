@@ -11,8 +11,10 @@
 #include "shell/logic/settingsslots.h"
 #include "shell/logic/windowsettings.h"
 #include "shell/screens/about1.h"
+#include "shell/screens/backgroundselector.h"
 #include "shell/screens/helpwindow.h"
 #include "shell/screens/screenmetrics.h"
+#include "shell/screens/screenstatusbar.h"
 #include "shell/screens/splash1.h"
 
 #include <QApplication>
@@ -76,13 +78,29 @@ Startfrm::Startfrm(Dialogs& dialogs, const ScreenMetrics& screen, QWidget* paren
     image1_->setScaledContents(true);
     image1_->hide();
 
+    statusBar_ = new ScreenStatusBar(this);
+    statusBar_->setActivity(QStringLiteral("Main Menu"));
+    setStatusBar(statusBar_);
+
     buildMenus();
     buildCommandPanel();
+
+    backgroundSelector_ = new BackgroundSelector(dialogs_, central_);
+    connect(findChild<QAction*>(QStringLiteral("mBackground")), &QAction::triggered, this,
+            [this] { backgroundSelector_->toggle(background_); });
+    connect(backgroundSelector_, &BackgroundSelector::previewBackground, this, &Startfrm::showBackground);
+    connect(backgroundSelector_, &BackgroundSelector::backgroundChosen, this, [this](const Background& chosen) {
+        background_ = chosen;
+        showBackground(background_);
+    });
+    connect(backgroundSelector_, &BackgroundSelector::activityChanged, statusBar_, &ScreenStatusBar::setActivity);
 
     auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
     connect(escape, &QShortcut::activated, this, &Startfrm::exitProgram);
     auto* f1 = new QShortcut(QKeySequence(Qt::Key_F1), this);
-    connect(f1, &QShortcut::activated, this, [this] { showHelp(kOverviewTopic); });
+    connect(f1, &QShortcut::activated, this, [this] {
+        showHelp(backgroundSelector_->isOpen() ? BackgroundSelector::kHelpTopic : kOverviewTopic);
+    });
 
     runStart();
 }
@@ -98,8 +116,7 @@ void Startfrm::buildMenus()
 {
     optionsMenu_ = menuBar()->addMenu(QStringLiteral("&Options"));
     optionsMenu_->setObjectName(QStringLiteral("mOptions"));
-    // The background selector comes with the panel colour screens.
-    addCommand(optionsMenu_, "mBackground", QStringLiteral("&Background Selector"))->setEnabled(false);
+    addCommand(optionsMenu_, "mBackground", QStringLiteral("&Background Selector"));
     QMenu* display = optionsMenu_->addMenu(QStringLiteral("&Program Display"));
     display->setObjectName(QStringLiteral("mProgramDisplay"));
     mFullScreen_ = addCommand(display, "mFullScreen", QStringLiteral("&Full Screen Display"));
@@ -233,6 +250,9 @@ void Startfrm::runStart()
     loadBackground();
     process.FamilyName = ReadFamilyName();
     setWindowTitle(MainCaption(process.FamilyName));
+    // Flags that earlier screens may have left.
+    process.TopToolbarFlag = 0;
+    process.SideToolbarsFlag = 0;
 
     if (!process.SplashShown) {
         process.SplashShown = true;
@@ -268,14 +288,14 @@ void Startfrm::loadBackground()
 {
     background_ = ReadStoredBackground();
     Process().LastPanelColor = ReadLastPanelColor();
-    showBackground();
+    showBackground(background_);
 }
 
-void Startfrm::showBackground()
+void Startfrm::showBackground(const Background& background)
 {
-    if (background_.kind == Background::Kind::Picture) {
+    if (background.kind == Background::Kind::Picture) {
         // A missing picture leaves the image empty over the window's colour.
-        image1_->setPixmap(QPixmap(ResolveFileName(background_.pictureFile())));
+        image1_->setPixmap(QPixmap(ResolveFileName(background.pictureFile())));
         image1_->setGeometry(central_->rect());
         image1_->lower();
         image1_->show();
@@ -283,9 +303,9 @@ void Startfrm::showBackground()
     }
     image1_->hide();
     QPalette palette = central_->palette();
-    palette.setColor(QPalette::Window, background_.kind == Background::Kind::Standard
+    palette.setColor(QPalette::Window, background.kind == Background::Kind::Standard
                                            ? QApplication::palette("QLabel").color(QPalette::Window)
-                                           : ColorFromColorref(background_.color));
+                                           : ColorFromColorref(background.color));
     central_->setPalette(palette);
 }
 

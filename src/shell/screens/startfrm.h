@@ -6,6 +6,7 @@
 #include <QMainWindow>
 
 class About1;
+class BackgroundSelector;
 class Dialogs;
 class QAction;
 class QFrame;
@@ -13,6 +14,7 @@ class QLabel;
 class QMenu;
 class QPushButton;
 class ScreenMetrics;
+class ScreenStatusBar;
 
 class Startfrm final : public QMainWindow {
     Q_OBJECT
@@ -47,7 +49,7 @@ private:
     void applyResizeRules(Qt::WindowStates previous);
     void checkScreen();
     void loadBackground();
-    void showBackground();
+    void showBackground(const Background& background);
     void centreCommandPanel();
     void updateDisplayTicks();
     int twips(int pixels) const;
@@ -73,6 +75,8 @@ private:
     QWidget* central_ = nullptr;
     QLabel* image1_ = nullptr;       // background picture
     QFrame* commandPanel_ = nullptr;
+    BackgroundSelector* backgroundSelector_ = nullptr;
+    ScreenStatusBar* statusBar_ = nullptr;
     QMenu* optionsMenu_ = nullptr;
     QAction* mFullScreen_ = nullptr;
     QAction* mSmallerScreen_ = nullptr;

@@ -1,0 +1,119 @@
+#include "recipetools/logic/recipelifecycle.h"
+
+#include "cookbook/logic/cookbookfiles.h"
+#include "cookbook/logic/nameentry.h"
+
+#include <QCoreApplication>
+#include <algorithm>
+
+namespace {
+
+// The screen's yield type list may hold a longer text than the record takes;
+// it is cut here so that the record layer never has to.
+constexpr int kYieldTypeLength = 11;
+
+void LetPendingEventsRun()
+{
+    if (QCoreApplication::instance())
+        QCoreApplication::processEvents();
+}
+
+bool IsValidIndex(const QStringList& list, int index)
+{
+    return index >= 0 && index < list.size();
+}
+
+} // namespace
+
+RecipeRecord BuildRecipeRecord(const RecipeFields& fields)
+{
+    RecipeRecord record = RecipeRecord::Cleared();
+    for (int row = 0; row < kRecipeRows; ++row) {
+        record.amounts[row].setText(fields.amounts[row]);
+        record.amountTypes[row].setText(fields.units[row]);
+        record.ingredients[row].setText(fields.ingredients[row]);
+    }
+    record.directions.setText(fields.directions);
+    record.ovenTemperature.setText(fields.ovenTemperature);
+    record.yieldAmount.setText(fields.yieldAmount);
+    record.cookingTime.setText(fields.cookingTime);
+    // "Casserole(s)" is one character too long and is stored "Casserole(s".
+    record.yieldType.setText(QStringView(fields.yieldType).left(kYieldTypeLength));
+    record.markUsed();
+    return record;
+}
+
+RecipeFields FieldsOfRecord(const RecipeRecord& record)
+{
+    RecipeFields fields;
+    for (int row = 0; row < kRecipeRows; ++row) {
+        fields.amounts[row] = record.amounts[row].text();
+        fields.units[row] = record.amountTypes[row].text();
+        fields.ingredients[row] = record.ingredients[row].text();
+    }
+    fields.directions = record.directions.text();
+    fields.ovenTemperature = record.ovenTemperature.text();
+    fields.cookingTime = record.cookingTime.text();
+    fields.yieldAmount = record.yieldAmount.text();
+    fields.yieldType = record.yieldType.text();
+    return fields;
+}
+
+void SortEntries(QStringList& entries)
+{
+    std::stable_sort(entries.begin(), entries.end(), [](const QString& a, const QString& b) {
+        return QString::compare(a, b, Qt::CaseInsensitive) < 0;
+    });
+}
+
+bool SaveExistingRecipe(int cookbook, RecordNumber recordNumber, const RecipeFields& fields,
+                        const QString& picturePath)
+{
+    return WriteRecipe(cookbook, recordNumber, BuildRecipeRecord(fields), picturePath);
+}
+
+SavedNewRecipe SaveNewRecipe(int cookbook, RecipeType type, const QString& name, const RecipeFields& fields,
+                             const QString& picturePath, const QStringList& currentNames)
+{
+    SavedNewRecipe saved;
+    // Only an empty name stops the save; the screen has already refused it
+    // with its message, so this is the last guard against a nameless slot.
+    if (name.isEmpty())
+        return saved;
+    // Recipe file and extra file first, the name file last: a failure in
+    // between leaves a used slot without a name, never a name without a slot.
+    saved.recordNumber = FindFreeSlot(cookbook);
+    WriteRecipe(cookbook, saved.recordNumber, BuildRecipeRecord(fields), picturePath);
+    // MakeNameEntry cuts the name to 41 characters and drops trailing blanks.
+    saved.entry = MakeNameEntry(name, saved.recordNumber);
+    RebuildNameFile(cookbook, type, currentNames, saved.entry);
+    return saved;
+}
+
+QStringList DeleteRecipe(int cookbook, RecipeType type, RecordNumber recordNumber, QStringList pickList,
+                         int listIndex)
+{
+    ClearRecipe(cookbook, recordNumber);
+    LetPendingEventsRun();
+    // An index outside the list removes nothing; the name file is still
+    // rebuilt, from the whole list.
+    if (IsValidIndex(pickList, listIndex))
+        pickList.removeAt(listIndex);
+    RebuildNameFile(cookbook, type, pickList);
+    return pickList;
+}
+
+QStringList RenameRecipe(int cookbook, RecipeType type, RecordNumber recordNumber, QStringList pickList,
+                         int listIndex, const QString& newName)
+{
+    // An empty new name is refused by the rename panel before it gets here;
+    // should one arrive, nothing changes.
+    if (newName.isEmpty())
+        return pickList;
+    if (IsValidIndex(pickList, listIndex))
+        pickList.removeAt(listIndex);
+    pickList.append(MakeNameEntry(newName, recordNumber));
+    SortEntries(pickList);
+    RebuildNameFile(cookbook, type, pickList);
+    return pickList;
+}

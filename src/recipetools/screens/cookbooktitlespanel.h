@@ -1,0 +1,24 @@
+#pragma once
+// The panel "Cookbook Titles": one box of 30 characters for each of the
+// eight cookbooks.
+#include <QFrame>
+#include <QList>
+
+class QLineEdit;
+
+class CookbookTitlesPanel final : public QFrame {
+    Q_OBJECT
+public:
+    explicit CookbookTitlesPanel(QWidget* parent);
+
+    void open(const QStringList& titles);
+    QStringList titles() const;
+    QLineEdit* titleBox(int cookbook) const { return boxes_.value(cookbook - 1); }
+
+signals:
+    void closeRequested();
+    void saveRequested(const QStringList& titles);
+
+private:
+    QList<QLineEdit*> boxes_;
+};

@@ -1,0 +1,116 @@
+#pragma once
+// Form5, the recipe screen: one recipe of the current cookbook at a time,
+// in four modes (Idle, Create, View, Modify). The fields live in
+// RecipeFieldsPanel; the rename and titles panels have classes of their own.
+// Each command is one QAction shared by its menu entry, toolbar button and
+// screen button, and CommandStatesFor decides which are enabled.
+#include "cookbook/logic/cookbooknames.h"
+#include "recipetools/logic/recipelifecycle.h"
+#include "recipetools/logic/recipemodes.h"
+
+#include "shell/screens/activitywindow.h"
+
+#include <array>
+#include <optional>
+
+class CookbookTitlesPanel;
+class Dialogs;
+class PanelColors;
+class QAction;
+class QLabel;
+class QMenu;
+class RecipeFieldsPanel;
+class RenamePanel;
+class ScreenStatusBar;
+
+class Form5 final : public ActivityWindow {
+    Q_OBJECT
+public:
+    static constexpr int kHelpTopic = 1010;
+
+    explicit Form5(Dialogs& dialogs, QWidget* parent = nullptr);
+
+    // For callers that know a record number (search): shows the recipe of
+    // that slot without the save question and finds its entry in the pick
+    // list to set the list position.
+    void showRecipeAt(RecordNumber recordNumber, const QString& entry);
+
+    RecipeMode mode() const { return state_.mode; }
+    int cookbook() const { return cookbook_; }
+    RecordNumber currentRecordNumber() const { return currentRecordNumber_; }
+    const std::array<QString, kRecipeRows>& amountWorkList() const { return amountWorkList_; }
+    bool recipeChanged() const { return state_.recipeChanged; }
+    RecipeFieldsPanel* fieldsPanel() const { return fields_; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    // Building (form5layout.cpp).
+    QAction* addCommand(QMenu* menu, const char* objectName, const QString& caption);
+    void buildMenus();
+    void buildCommandButtons(QWidget* parent, class QBoxLayout* layout);
+    void buildCookbookMenu(QMenu* options);
+
+    // The cookbook.
+    void loadCookbook();
+    void selectCookbook(int cookbook);
+    void openTitles();
+    void saveTitles(const QStringList& titles);
+
+    // The life of a recipe.
+    bool saveQuestionAllowsAction();
+    void chooseType();
+    void fillTypeLists(bool openPickList);
+    void createRecipe();
+    void viewRecipes();
+    void loadChosenRecipe(int index);
+    void loadRecipe(RecordNumber recordNumber, int listIndex);
+    void modifyRecipe();
+    void saveRecipe();
+    void save(bool openPickList);
+    void deleteRecipe();
+    void openRename();
+    void saveRename(const QString& newName);
+    void closeRename();
+    void clearScreen();
+    void exitScreen();
+
+    // Fields.
+    bool fieldEntryAllowed(QWidget* field, Qt::FocusReason reason);
+    void nameEnterPressed();
+    void showAmountInstructions();
+    void recipeEdited();
+    void informUser(const QString& title, const QString& text);
+
+    void setMode(RecipeMode mode);
+    void setTitleStrip(const QString& caption, bool alarm = false);
+    void applyCommandStates();
+    std::optional<RecipeType> chosenType() const;
+    void setPickEntries(const QStringList& entries);
+    void setCurrentNames(const QStringList& entries);
+    QStringList pickEntries() const;
+    QStringList currentNames() const;
+
+    Dialogs& dialogs_;
+    RecipeFieldsPanel* fields_ = nullptr;
+    RenamePanel* renamePanel_ = nullptr;
+    CookbookTitlesPanel* titlesPanel_ = nullptr;
+    ScreenStatusBar* statusBar_ = nullptr;
+    PanelColors* panelColors_ = nullptr;
+    QLabel* titleStrip_ = nullptr;           // SSPanel4
+    QMenu* cookbookMenu_ = nullptr;
+    std::array<QAction*, kCookbookCount> cookbookEntries_{};
+
+    int cookbook_ = 0;                       // CurrentCookbook
+    QStringList titles_;                     // CookbookTitles
+    RecipeScreenState state_;
+    RecordNumber currentRecordNumber_ = 0;   // CurrentRecordNumber
+    int currentListIndex_ = -1;              // CurrentListIndex
+    QString picturePath_;                    // PicturePath
+    std::array<QString, kRecipeRows> amountWorkList_; // AmountWorkList
+    QString currentTypeName_;                // CurrentTypeName
+    bool saveRefused_ = false;               // a save was refused: the action stops
+    bool savingRecordOnly_ = false;          // the rename's save question saves the record alone
+    bool skipSaveQuestion_ = false;          // a caller that knows the record number (SaveAnswer -333)
+};

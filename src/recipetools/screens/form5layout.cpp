@@ -1,0 +1,112 @@
+// Form5's menus, command buttons and cookbook menu.
+#include "recipetools/screens/form5.h"
+
+#include "common/widgets/commandbutton.h"
+#include "cookbook/logic/cookbookselection.h"
+
+#include <QAction>
+#include <QBoxLayout>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+
+namespace {
+
+// The main commands in the order of the screen's buttons, with the caption
+// of the button; the action (menu entry) of the same name carries the menu
+// caption.
+struct CommandButton {
+    const char* action;
+    const char* caption;
+};
+constexpr CommandButton kButtons[] = {
+    {"mCreate", "&Create"}, {"mView", "&View"},          {"mModify", "&Modify"},
+    {"mSave", "&Save"},     {"mPrint", "&Print"},        {"mCalculate", "C&alculate"},
+    {"mDelete", "&Delete"}, {"mSearch", "S&earch"},      {"mSpelling", "S&pelling Check"},
+    {"mExit", "E&xit"},
+};
+
+} // namespace
+
+QAction* Form5::addCommand(QMenu* menu, const char* objectName, const QString& caption)
+{
+    QAction* action = menu->addAction(caption);
+    action->setObjectName(QString::fromLatin1(objectName));
+    return action;
+}
+
+void Form5::buildMenus()
+{
+    QMenu* recipe = menuBar()->addMenu(QStringLiteral("&Recipe"));
+    recipe->setObjectName(QStringLiteral("mRecipe"));
+    connect(addCommand(recipe, "mCreate", QStringLiteral("&Create Recipe")), &QAction::triggered, this,
+            &Form5::createRecipe);
+    connect(addCommand(recipe, "mView", QStringLiteral("&View Recipe")), &QAction::triggered, this,
+            &Form5::viewRecipes);
+    connect(addCommand(recipe, "mModify", QStringLiteral("&Modify Recipe")), &QAction::triggered, this,
+            &Form5::modifyRecipe);
+    connect(addCommand(recipe, "mSave", QStringLiteral("&Save")), &QAction::triggered, this, &Form5::saveRecipe);
+    connect(addCommand(recipe, "mDelete", QStringLiteral("&Delete Recipe")), &QAction::triggered, this,
+            &Form5::deleteRecipe);
+    connect(addCommand(recipe, "mRename", QStringLiteral("Change Recipe &Name")), &QAction::triggered, this,
+            &Form5::openRename);
+    recipe->addSeparator();
+    // The tools below come with their own screens and panels; until then
+    // their entries stay disabled.
+    addCommand(recipe, "mCalculate", QStringLiteral("C&alculate Amounts"));
+    addCommand(recipe, "mSearch", QStringLiteral("Searc&h"));
+    addCommand(recipe, "mSpelling", QStringLiteral("S&pelling Check"));
+    recipe->addSeparator();
+    addCommand(recipe, "mPrint", QStringLiteral("&Print Options"));
+    addCommand(recipe, "mWorksheet", QStringLiteral("Print &Worksheet"));
+    recipe->addSeparator();
+    connect(addCommand(recipe, "mExit", QStringLiteral("E&xit")), &QAction::triggered, this, &Form5::exitScreen);
+
+    QMenu* edit = menuBar()->addMenu(QStringLiteral("&Edit"));
+    edit->setObjectName(QStringLiteral("mEdit"));
+    addCommand(edit, "mCopy", QStringLiteral("Cop&y"));
+    edit->addSeparator();
+    addCommand(edit, "mExport", QStringLiteral("&Export Recipe"));
+    addCommand(edit, "mImport", QStringLiteral("&Import Recipe"));
+
+    QMenu* options = menuBar()->addMenu(QStringLiteral("&Options"));
+    options->setObjectName(QStringLiteral("mOptions"));
+    buildCookbookMenu(options);
+    options->addSeparator();
+    addCommand(options, "mPanelColor", QStringLiteral("Panel C&olor"));
+
+    QMenu* utilities = menuBar()->addMenu(QStringLiteral("&Utilities"));
+    utilities->setObjectName(QStringLiteral("mUtilities"));
+    addCommand(utilities, "mBackup", QStringLiteral("&Backup Recipes to Disk"));
+    addCommand(utilities, "mRestore", QStringLiteral("&Restore Recipes from Disk"));
+
+    QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
+    help->setObjectName(QStringLiteral("mHelpMenu"));
+    addCommand(help, "mHelp", QStringLiteral("Recipe File &Help"))->setShortcut(QKeySequence(Qt::Key_F1));
+}
+
+void Form5::buildCookbookMenu(QMenu* options)
+{
+    cookbookMenu_ = options->addMenu(QStringLiteral("Select Cook&book"));
+    cookbookMenu_->setObjectName(QStringLiteral("mSelectCookbook"));
+    for (int cookbook = 1; cookbook <= kCookbookCount; ++cookbook) {
+        QAction* entry = addCommand(cookbookMenu_, "", QStringLiteral("Cookbook #&%1").arg(cookbook));
+        entry->setObjectName(QStringLiteral("mCookbook%1").arg(cookbook));
+        entry->setCheckable(true);
+        connect(entry, &QAction::triggered, this, [this, cookbook] { selectCookbook(cookbook); });
+        cookbookEntries_[cookbook - 1] = entry;
+    }
+    connect(addCommand(options, "mTitles", QStringLiteral("Cookbook &Titles")), &QAction::triggered, this,
+            &Form5::openTitles);
+}
+
+void Form5::buildCommandButtons(QWidget* parent, QBoxLayout* layout)
+{
+    for (int i = 0; i < int(std::size(kButtons)); ++i) {
+        auto* button = new QPushButton(QString::fromLatin1(kButtons[i].caption), parent);
+        button->setObjectName(QStringLiteral("Command1_%1").arg(i));
+        button->setAutoDefault(false);
+        BindButtonToAction(button, findChild<QAction*>(QString::fromLatin1(kButtons[i].action)));
+        layout->addWidget(button);
+    }
+}

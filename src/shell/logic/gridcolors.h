@@ -1,0 +1,28 @@
+#pragma once
+// The background and text colour of a screen's grids. The background slot
+// holds "Default" (leave the grid as it is), a colour number, or the name of
+// a picture beginning "WP" in any case, shown from that name plus ".jpg".
+// The text slot holds "Default" or a colour number.
+#include "shell/logic/settingsslots.h"
+
+#include <QString>
+#include <optional>
+
+// The pair that most grids share.
+inline constexpr SettingsSlotFile kSharedGridColorFile = GColor1;
+inline constexpr int kSharedGridBackgroundSlot = 28;
+inline constexpr int kSharedGridTextSlot = 29;
+
+struct GridColors {
+    enum class Kind { Unchanged, Color, Picture };
+    Kind kind = Kind::Unchanged;
+    qint32 color = 0;                 // Kind::Color
+    QString pictureFile;              // Kind::Picture: "WP3.jpg"
+    std::optional<qint32> textColor;  // nothing: the grid keeps its text colour
+
+    bool operator==(const GridColors&) const = default;
+};
+
+GridColors GridColorsOf(QStringView background, QStringView text);
+GridColors ReadGridColors(const SettingsSlotFile& file, int backgroundSlot, int textSlot);
+GridColors ReadSharedGridColors();

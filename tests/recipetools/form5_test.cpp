@@ -1,0 +1,748 @@
+// The recipe screen driven offscreen with scripted dialogs: the road of a
+// recipe through its files, the modes, the fields and the cookbooks.
+#include "cookbook/logic/cookbookselection.h"
+#include "recipetools/screens/form5.h"
+#include "recipetools/screens/recipefieldspanel.h"
+#include "shell/logic/processvalues.h"
+#include "shell/logic/settingsslots.h"
+#include "recipe_samples.h"
+#include "scripted_dialogs.h"
+#include "temp_program_folder.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTest>
+#include <gtest/gtest.h>
+#include <memory>
+
+using layout::Entry;
+using layout::ExtraSlot;
+using samples::NameFile;
+
+namespace {
+
+const char kRecipeFile[] = "Recipe File";
+const char kSaveQuestion[] = "Save Current Recipe before next action or exiting?";
+const char kCommandTitle[] = "Recipe File Function";
+const char kCommandText[] = "Please Select Command Button for action desired.";
+
+void Choose(QComboBox* combo, const QString& text)
+{
+    const int index = combo->findText(text);
+    ASSERT_GE(index, 0) << text.toStdString();
+    combo->setCurrentIndex(index);
+    emit combo->activated(index);
+    combo->hidePopup();
+}
+
+void ShowActive(QWidget& window)
+{
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+}
+
+class Form5Test : public ::testing::Test {
+protected:
+    Form5Test()
+    {
+        Process() = ProcessValues{};
+        WriteSlotText(GColor4, 1, u" 1");
+    }
+
+    std::unique_ptr<Form5> open()
+    {
+        auto form = std::make_unique<Form5>(dialogs);
+        form->setAttribute(Qt::WA_DeleteOnClose, false);
+        return form;
+    }
+
+    QAction* act(Form5& form, const char* name) { return form.findChild<QAction*>(name); }
+    RecipeFieldsPanel* fields(Form5& form) { return form.fieldsPanel(); }
+    QString strip(Form5& form) { return form.findChild<QLabel*>("SSPanel4")->text(); }
+
+    // Starts a new recipe of `type` and types its name.
+    void startRecipe(Form5& form, const QString& type, const QString& name)
+    {
+        act(form, "mCreate")->trigger();
+        Choose(fields(form)->typeList(), type);
+        QTest::keyClicks(fields(form)->nameBox(), name);
+    }
+
+    void typeRow(Form5& form, int row, const QString& amount, const QString& unit, const QString& ingredient)
+    {
+        QTest::keyClicks(fields(form)->amountBox(row), amount);
+        QTest::keyClicks(fields(form)->unitBox(row), unit);
+        QTest::keyClicks(fields(form)->ingredientBox(row), ingredient);
+    }
+
+    void pick(Form5& form, const QString& name) { Choose(fields(form)->pickList(), name); }
+
+    // A quick recipe of two rows, saved.
+    void saveQuickRecipe(Form5& form, const QString& type, const QString& name)
+    {
+        startRecipe(form, type, name);
+        typeRow(form, 0, "2", "cups", "flour");
+        act(form, "mSave")->trigger();
+    }
+
+    TempProgramFolder folder;
+    ScriptedDialogs dialogs;
+};
+
+samples::Sample AppleBread()
+{
+    samples::Sample s;
+    s.setRow(0, "1.5", "cups", "flour");
+    s.setRow(10, ".33", "cup", "sugar");
+    s.setOthers("Mix.\r\nBake.", "350", "1 hour", "2", "Loaf(s)");
+    return s;
+}
+
+} // namespace
+
+// ---- The road of a recipe ---------------------------------------------------------------
+
+TEST_F(Form5Test, TheRoadOfARecipeThroughItsFiles)
+{
+    auto form = open();
+    RecipeFieldsPanel* panel = fields(*form);
+    const samples::Sample apple = AppleBread();
+
+    // Create in an empty cookbook and save.
+    startRecipe(*form, "Breads", "Apple Bread");
+    EXPECT_EQ(strip(*form), "Create Recipe");
+    typeRow(*form, 0, "1.5", "cups", "flour");
+    typeRow(*form, 10, ".33", "cup", "sugar");
+    QTest::keyClicks(panel->directionsBox(), "Mix.");
+    QTest::keyClick(panel->directionsBox(), Qt::Key_Return);
+    QTest::keyClicks(panel->directionsBox(), "Bake.");
+    QTest::keyClicks(form->findChild<QLineEdit*>("Text3"), "350");
+    QTest::keyClicks(form->findChild<QLineEdit*>("Text7"), "1 hour");
+    QTest::keyClicks(form->findChild<QLineEdit*>("Text6"), "2");
+    panel->yieldTypeList()->setEditText("Loaf(s)");
+    ASSERT_TRUE(act(*form, "mSave")->isEnabled());
+    act(*form, "mSave")->trigger();
+    EXPECT_EQ(folder.bytesOf("Recipe2.db1"), apple.savedBytes());
+    EXPECT_EQ(folder.bytesOf("Recipe4.db1"), ExtraSlot(""));
+    EXPECT_EQ(folder.bytesOf("Breanfil.db1"), NameFile({Entry("Apple Bread", 1)}));
+    EXPECT_EQ(form->mode(), RecipeMode::View);
+    EXPECT_EQ(strip(*form), "View Recipe");
+
+    // View: amounts as fractions, the work list in decimals.
+    pick(*form, "Apple Bread");
+    EXPECT_EQ(panel->amountBox(0)->text(), "1 1/2");
+    EXPECT_EQ(panel->amountBox(10)->text(), "1/3");
+    EXPECT_EQ(form->amountWorkList()[0], "1.5");
+    EXPECT_EQ(panel->unitBox(0)->text(), "cups");
+    EXPECT_EQ(panel->directionsBox()->toPlainText(), "Mix.\nBake.");
+    EXPECT_EQ(panel->yieldTypeList()->currentText(), "Loaf(s)");
+    EXPECT_EQ(form->currentRecordNumber(), 1);
+
+    // Modify in decimals and save again: the slot is rewritten, the name file stays.
+    const QByteArray namesBefore = folder.bytesOf("Breanfil.db1");
+    act(*form, "mModify")->trigger();
+    EXPECT_EQ(strip(*form), "Modify Recipe");
+    EXPECT_EQ(panel->amountBox(0)->text(), "1.5");
+    EXPECT_EQ(panel->amountBox(10)->text(), ".33");
+    panel->amountBox(0)->clear();
+    QTest::keyClicks(panel->amountBox(0), "2");
+    act(*form, "mSave")->trigger();
+    samples::Sample changed = apple;
+    changed.setRow(0, "2", "cups", "flour");
+    EXPECT_EQ(folder.bytesOf("Recipe2.db1"), changed.savedBytes());
+    EXPECT_EQ(folder.bytesOf("Breanfil.db1"), namesBefore);
+
+    // Rename: same record number, new entry.
+    pick(*form, "Apple Bread");
+    act(*form, "mRename")->trigger();
+    EXPECT_EQ(strip(*form), "Name Change");
+    EXPECT_FALSE(act(*form, "mTitles")->isEnabled());
+    EXPECT_FALSE(form->findChild<QMenu*>("mSelectCookbook")->isEnabled());
+    QTest::keyClicks(form->findChild<QLineEdit*>("Text10"), "Banana Bread");
+    form->findChild<QPushButton*>("Command11")->click();
+    EXPECT_EQ(folder.bytesOf("Breanfil.db1"), NameFile({Entry("Banana Bread", 1), " "}));
+    EXPECT_EQ(folder.bytesOf("Recipe2.db1"), changed.savedBytes());
+    EXPECT_TRUE(act(*form, "mTitles")->isEnabled());
+    EXPECT_EQ(strip(*form), "View Recipe");
+
+    // A second recipe takes slot 2.
+    saveQuickRecipe(*form, "Breads", "Corn Bread");
+    EXPECT_EQ(folder.bytesOf("Breanfil.db1"), NameFile({Entry("Banana Bread", 1), Entry("Corn Bread", 2), " "}));
+    EXPECT_EQ(folder.bytesOf("Recipe2.db1").size(), 2 * 2045);
+
+    // Delete the first: its slot becomes a hole.
+    pick(*form, "Banana Bread");
+    dialogs.expectMessage("Delete Recipe", "Do you Really want to delete this Recipe?", Answer::Yes);
+    act(*form, "mDelete")->trigger();
+    EXPECT_EQ(dialogs.messages().last().defaultButton, 2) << "No is the default";
+    EXPECT_EQ(folder.bytesOf("Recipe2.db1").left(2045), samples::ClearedSlot());
+    EXPECT_EQ(folder.bytesOf("Recipe4.db1").left(250), ExtraSlot(""));
+    EXPECT_EQ(folder.bytesOf("Breanfil.db1"), NameFile({Entry("Corn Bread", 2), " ", " ", " "}));
+
+    // The next new recipe fills the hole.
+    saveQuickRecipe(*form, "Breads", "Date Bread");
+    EXPECT_EQ(folder.bytesOf("Breanfil.db1"),
+              NameFile({Entry("Corn Bread", 2), Entry("Date Bread", 1), " ", " ", " "}));
+    EXPECT_EQ(folder.bytesOf("Recipe2.db1").size(), 2 * 2045);
+    EXPECT_EQ(folder.bytesOf("Recipe2.db1").mid(2040, 5), "Full1");
+}
+
+// ---- Lifecycle edge cases ---------------------------------------------------------------
+
+TEST_F(Form5Test, SaveInCreateModeWithABlankNameIsRefused)
+{
+    auto form = open();
+    startRecipe(*form, "Dips", "");
+    typeRow(*form, 0, "1", "cup", "sour cream");
+    dialogs.expectMessage("Save", "Please enter Recipe Name in order to save!");
+    act(*form, "mSave")->trigger();
+    EXPECT_EQ(dialogs.messages().last().icon, Icon::Information);
+    EXPECT_EQ(folder.bytesOf("Recipe2.db1"), QByteArray());
+    EXPECT_EQ(fields(*form)->ingredientBox(0)->text(), "sour cream") << "the typed fields stay";
+    EXPECT_EQ(form->mode(), RecipeMode::Create);
+}
+
+TEST_F(Form5Test, NoInTheSaveQuestionLosesTheDataAndGoesOn)
+{
+    auto form = open();
+    startRecipe(*form, "Dips", "Onion Dip");
+    typeRow(*form, 0, "1", "cup", "sour cream");
+    dialogs.expectMessage(kRecipeFile, kSaveQuestion, Answer::No);
+    dialogs.expectMessage("Recipe Files", "No Recipes for Dips were found!");
+    act(*form, "mView")->trigger();
+    EXPECT_EQ(dialogs.messages().first().buttons, Buttons::YesNoCancel);
+    EXPECT_EQ(dialogs.messages().first().icon, Icon::Question);
+    EXPECT_EQ(form->mode(), RecipeMode::View);
+    EXPECT_EQ(folder.bytesOf("Recipe2.db1"), QByteArray()) << "nothing was saved";
+}
+
+TEST_F(Form5Test, YesInTheSaveQuestionSavesFirst)
+{
+    auto form = open();
+    startRecipe(*form, "Dips", "Onion Dip");
+    typeRow(*form, 0, "1", "cup", "sour cream");
+    dialogs.expectMessage(kRecipeFile, kSaveQuestion, Answer::Yes);
+    act(*form, "mView")->trigger();
+    EXPECT_EQ(folder.bytesOf("Dipsnfil.db1"), NameFile({Entry("Onion Dip", 1)}));
+}
+
+TEST_F(Form5Test, CancelInTheSaveQuestionOfAnotherTypePutsTheOldTypeBack)
+{
+    auto form = open();
+    startRecipe(*form, "Dips", "Onion Dip");
+    typeRow(*form, 0, "1", "cup", "sour cream");
+    dialogs.expectMessage(kRecipeFile, kSaveQuestion, Answer::Cancel);
+    Choose(fields(*form)->typeList(), "Stews");
+    EXPECT_EQ(fields(*form)->typeList()->currentText(), "Dips");
+    EXPECT_EQ(fields(*form)->nameBox()->text(), "Onion Dip");
+    EXPECT_EQ(form->mode(), RecipeMode::Create);
+}
+
+TEST_F(Form5Test, DeletingTheLastRecipeLeavesBlanksAndViewingShowsNoMessage)
+{
+    auto form = open();
+    saveQuickRecipe(*form, "Soups and sauces", "Tomato Soup");
+    pick(*form, "Tomato Soup");
+    dialogs.expectMessage("Delete Recipe", "Do you Really want to delete this Recipe?", Answer::Yes);
+    act(*form, "mDelete")->trigger();
+    EXPECT_EQ(folder.bytesOf("Soupnfil.db1"), NameFile({" ", " "}));
+    act(*form, "mView")->trigger();
+    EXPECT_EQ(fields(*form)->pickList()->count(), 0);
+    EXPECT_EQ(dialogs.messages().size(), 1) << "no \"No Recipes\" message: slot 1 holds a blank";
+}
+
+TEST_F(Form5Test, ViewingATypeWithoutAFileSaysNoRecipes)
+{
+    auto form = open();
+    dialogs.expectMessage("Recipe Files", "No Recipes for Appetizers and beverages were found!");
+    act(*form, "mView")->trigger();
+    EXPECT_EQ(dialogs.messages().last().icon, Icon::Information);
+    EXPECT_EQ(fields(*form)->typeList()->currentText(), "Appetizers and beverages");
+}
+
+TEST_F(Form5Test, DeleteAnsweredNoChangesNothing)
+{
+    auto form = open();
+    saveQuickRecipe(*form, "Stews", "Beef Stew");
+    const QByteArray before = folder.bytesOf("Recipe2.db1");
+    pick(*form, "Beef Stew");
+    dialogs.expectMessage("Delete Recipe", "Do you Really want to delete this Recipe?", Answer::No);
+    act(*form, "mDelete")->trigger();
+    EXPECT_EQ(folder.bytesOf("Recipe2.db1"), before);
+    EXPECT_EQ(strip(*form), "View Recipe");
+}
+
+TEST_F(Form5Test, DirectionsOf951CharactersShowTheirCountInRed)
+{
+    auto form = open();
+    startRecipe(*form, "Desserts", "Trifle");
+    QPlainTextEdit* directions = fields(*form)->directionsBox();
+    directions->setPlainText(QString(950, u'x'));
+    auto* counter = form->findChild<QLabel*>("Label13");
+    EXPECT_EQ(counter->text(), "950");
+    EXPECT_EQ(counter->palette().color(QPalette::WindowText), QColor(Qt::black));
+    directions->setPlainText(QString(951, u'x'));
+    EXPECT_EQ(counter->text(), "951");
+    EXPECT_EQ(counter->palette().color(QPalette::WindowText), QColor(255, 0, 0));
+    directions->setPlainText(QString(1200, u'x'));
+    EXPECT_EQ(directions->toPlainText().size(), 1000) << "the box takes up to 1000";
+}
+
+TEST_F(Form5Test, ModifyShowsDecimalsWhereViewShowedFractionsAndSavingKeepsThem)
+{
+    auto form = open();
+    startRecipe(*form, "Fruits", "Fruit Cup");
+    typeRow(*form, 0, ".33", "cup", "grapes");
+    act(*form, "mSave")->trigger();
+    pick(*form, "Fruit Cup");
+    EXPECT_EQ(fields(*form)->amountBox(0)->text(), "1/3");
+    act(*form, "mModify")->trigger();
+    EXPECT_EQ(fields(*form)->amountBox(0)->text(), ".33");
+    QTest::keyClicks(fields(*form)->ingredientBox(0), " and melon");
+    act(*form, "mSave")->trigger();
+    EXPECT_EQ(folder.bytesOf("Recipe2.db1").left(5), ".33  ");
+}
+
+TEST_F(Form5Test, AFortyCharacterNameHasTwelveBlanksBeforeTheNumber)
+{
+    auto form = open();
+    const QString name(40, u'N');
+    saveQuickRecipe(*form, "Meats", name);
+    EXPECT_EQ(folder.bytesOf("Meatnfil.db1"), NameFile({QByteArray(40, 'N') + QByteArray(12, ' ') + "1"}));
+}
+
+TEST_F(Form5Test, ExitWithChangesAsksTheShortQuestion)
+{
+    auto form = open();
+    startRecipe(*form, "Candies", "Fudge");
+    typeRow(*form, 0, "3", "cups", "chips");
+    dialogs.expectMessage(kRecipeFile, "Save Current Recipe before exiting?", Answer::Yes);
+    EXPECT_TRUE(form->close());
+    EXPECT_EQ(dialogs.messages().last().buttons, Buttons::YesNo);
+    EXPECT_EQ(folder.bytesOf("Candnfil.db1"), NameFile({Entry("Fudge", 1)}));
+}
+
+TEST_F(Form5Test, ExitWhoseSaveIsRefusedStays)
+{
+    auto form = open();
+    startRecipe(*form, "Candies", "");
+    typeRow(*form, 0, "3", "cups", "chips");
+    dialogs.expectMessage(kRecipeFile, "Save Current Recipe before exiting?", Answer::Yes);
+    dialogs.expectMessage("Save", "Please enter Recipe Name in order to save!");
+    EXPECT_FALSE(form->close());
+}
+
+TEST_F(Form5Test, RenameWithAnEmptyNameIsRefused)
+{
+    auto form = open();
+    saveQuickRecipe(*form, "Stews", "Beef Stew");
+    pick(*form, "Beef Stew");
+    act(*form, "mRename")->trigger();
+    EXPECT_EQ(form->findChild<QLabel*>("Label27")->text(), "Beef Stew");
+    dialogs.expectMessage("Recipe Name Change", "No Change Recipe Name has been entered!");
+    form->findChild<QPushButton*>("Command11")->click();
+    form->findChild<QPushButton*>("Command12")->click();
+    EXPECT_TRUE(act(*form, "mTitles")->isEnabled());
+    EXPECT_EQ(folder.bytesOf("Stewnfil.db1"), NameFile({Entry("Beef Stew", 1)}));
+}
+
+TEST_F(Form5Test, ARecordNumberFromAnotherCallerLoadsWithoutTheQuestion)
+{
+    auto form = open();
+    saveQuickRecipe(*form, "Stews", "Beef Stew");
+    saveQuickRecipe(*form, "Stews", "Lamb Stew");
+    startRecipe(*form, "Stews", "Unsaved");
+    typeRow(*form, 0, "1", "cup", "water");
+    form->showRecipeAt(2, samples::EntryText("Lamb Stew", 2));
+    EXPECT_TRUE(dialogs.messages().isEmpty());
+    EXPECT_EQ(form->currentRecordNumber(), 2);
+    EXPECT_EQ(fields(*form)->pickList()->currentText(), "Lamb Stew");
+    EXPECT_EQ(fields(*form)->ingredientBox(0)->text(), "flour");
+}
+
+// ---- The screen's fields ------------------------------------------------------------------
+
+TEST_F(Form5Test, FixedListsAreFilledAtLoad)
+{
+    auto form = open();
+    QComboBox* types = fields(*form)->typeList();
+    ASSERT_EQ(types->count(), 22);
+    EXPECT_EQ(types->itemText(0), "Appetizers and beverages");
+    EXPECT_EQ(types->itemText(13), "Lowin fat or calorie meals");
+    EXPECT_EQ(types->itemText(21), "Vegetables");
+    QComboBox* yields = fields(*form)->yieldTypeList();
+    QStringList yieldTypes;
+    for (int i = 0; i < yields->count(); ++i)
+        yieldTypes << yields->itemText(i);
+    EXPECT_EQ(yieldTypes, QStringList({"Cake(s)", "Casserole(s)", "Dozen", "Gallon(s)", "Loaf(s)", "Pie(s)", "Pieces",
+                                       "Quart(s)", "Serving(s)"}));
+    auto* singular = form->findChild<QListWidget*>("Combo5");
+    auto* plural = form->findChild<QListWidget*>("Combo6");
+    auto* amounts = form->findChild<QListWidget*>("Combo3");
+    EXPECT_EQ(singular->count(), 17);
+    EXPECT_EQ(plural->count(), 17);
+    EXPECT_EQ(singular->item(14)->text(), "Tbsp.");
+    EXPECT_EQ(plural->item(14)->text(), "Tbsps.");
+    ASSERT_EQ(amounts->count(), 14);
+    EXPECT_EQ(amounts->item(2)->text(), "1/3");
+}
+
+TEST_F(Form5Test, InViewModeAClickOnAFieldOnlyShowsTheCommandMessage)
+{
+    auto form = open();
+    saveQuickRecipe(*form, "Stews", "Beef Stew");
+    pick(*form, "Beef Stew");
+    ShowActive(*form);
+    const QByteArray before = folder.bytesOf("Recipe2.db1");
+    dialogs.expectMessage(kCommandTitle, kCommandText);
+    QTest::mouseClick(fields(*form)->ingredientBox(3), Qt::LeftButton);
+    QTest::keyClicks(fields(*form)->ingredientBox(3), "salt");
+    EXPECT_EQ(fields(*form)->ingredientBox(3)->text(), "");
+    EXPECT_FALSE(form->recipeChanged());
+    EXPECT_FALSE(form->findChild<QListWidget*>("Combo3")->isVisible());
+    EXPECT_EQ(folder.bytesOf("Recipe2.db1"), before);
+    EXPECT_EQ(dialogs.messages().last().icon, Icon::Information);
+}
+
+TEST_F(Form5Test, InIdleModeTheTypeListGivesTheCommandMessage)
+{
+    auto form = open();
+    ShowActive(*form);
+    dialogs.expectMessage(kCommandTitle, kCommandText);
+    fields(*form)->typeList()->setFocus(Qt::MouseFocusReason);
+}
+
+TEST_F(Form5Test, TheAmountListOrTheUnitListOpensByTheRowsAmount)
+{
+    auto form = open();
+    ShowActive(*form);
+    startRecipe(*form, "Breads", "Rolls");
+    RecipeFieldsPanel* panel = fields(*form);
+    auto* singular = form->findChild<QListWidget*>("Combo5");
+    auto* plural = form->findChild<QListWidget*>("Combo6");
+    const struct {
+        const char* amount;
+        QListWidget* list;
+    } rows[] = {{".5", singular}, {"1", singular}, {"1.5", plural}, {"", singular}};
+    int row = 0;
+    for (const auto& expected : rows) {
+        SCOPED_TRACE(expected.amount);
+        QTest::keyClicks(panel->amountBox(row), expected.amount);
+        panel->unitBox(row)->setFocus(Qt::TabFocusReason);
+        EXPECT_TRUE(expected.list->isVisible());
+        EXPECT_FALSE((expected.list == singular ? plural : singular)->isVisible());
+        QTest::keyClick(expected.list, Qt::Key_Escape);
+        EXPECT_FALSE(expected.list->isVisible());
+        ++row;
+    }
+    panel->amountBox(6)->setFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(form->findChild<QListWidget*>("Combo3")->isVisible());
+}
+
+TEST_F(Form5Test, PickingFromTheAmountListWritesTheDecimal)
+{
+    auto form = open();
+    ShowActive(*form);
+    startRecipe(*form, "Breads", "Rolls");
+    RecipeFieldsPanel* panel = fields(*form);
+    panel->amountBox(2)->setFocus(Qt::TabFocusReason);
+    auto* amounts = form->findChild<QListWidget*>("Combo3");
+    ASSERT_TRUE(amounts->isVisible());
+    amounts->setCurrentRow(2); // "1/3"
+    QTest::keyClick(amounts, Qt::Key_Return);
+    EXPECT_EQ(panel->amountBox(2)->text(), ".34");
+    EXPECT_EQ(form->amountWorkList()[2], ".34");
+    EXPECT_TRUE(panel->unitBox(2)->hasFocus() || form->findChild<QListWidget*>("Combo5")->isVisible());
+}
+
+TEST_F(Form5Test, AmountBoxKeepsOnlyDigitsAndPointsAndExplainsSlashes)
+{
+    auto form = open();
+    startRecipe(*form, "Breads", "Rolls");
+    QLineEdit* amount = fields(*form)->amountBox(0);
+    QTest::keyClicks(amount, "1a");
+    EXPECT_EQ(amount->text(), "1");
+    amount->clear();
+    QTest::keyClicks(amount, "x");
+    EXPECT_EQ(amount->text(), "") << "a single wrong character clears the box";
+    dialogs.expectMessage("Amount Input Instructions",
+                          "Create and Modify Recipe information:\n\nSince the program can calculate new yields, please "
+                          "enter amounts\nas whole and/or decimal numbers, thus 1 1/2 should be entered as:\n1.5,  1/8 = "
+                          ".125, 1/4 = .25, 1/3 = .33, 2/3 = .67 and so forth.\n\n(NOTE: You still can print & view "
+                          "recipes with/or without fractions!)");
+    QTest::keyClicks(amount, "1/");
+    EXPECT_EQ(amount->text(), "1");
+    EXPECT_EQ(form->amountWorkList()[0], "1");
+}
+
+TEST_F(Form5Test, AQuoteTypedLastIsCutButOnePastedInTheMiddleStays)
+{
+    auto form = open();
+    startRecipe(*form, "Breads", "Rolls");
+    QLineEdit* ingredient = fields(*form)->ingredientBox(0);
+    QTest::keyClicks(ingredient, "12\"");
+    EXPECT_EQ(ingredient->text(), "12");
+    ingredient->setText("a\"b");
+    ingredient->setCursorPosition(3);
+    QTest::keyClicks(ingredient, "c");
+    EXPECT_EQ(ingredient->text(), "a\"bc");
+}
+
+TEST_F(Form5Test, ARecipeNameOfOneQuoteLeavesTheBoxEmpty)
+{
+    auto form = open();
+    startRecipe(*form, "Breads", "\"");
+    EXPECT_EQ(fields(*form)->nameBox()->text(), "");
+}
+
+TEST_F(Form5Test, EnterMovesThroughTheRowsAndRow20GoesToTheDirections)
+{
+    auto form = open();
+    ShowActive(*form);
+    startRecipe(*form, "Breads", "Rolls");
+    RecipeFieldsPanel* panel = fields(*form);
+    QTest::keyClick(panel->nameBox(), Qt::Key_Return);
+    EXPECT_TRUE(form->findChild<QListWidget*>("Combo3")->isVisible()) << "the first amount box took the focus";
+    QTest::keyClick(panel->amountBox(4), Qt::Key_Return);
+    EXPECT_TRUE(panel->unitBox(4)->hasFocus() || form->findChild<QListWidget*>("Combo5")->isVisible());
+    QTest::keyClick(panel->unitBox(4), Qt::Key_Return);
+    EXPECT_TRUE(panel->ingredientBox(4)->hasFocus());
+    QTest::keyClick(panel->ingredientBox(4), Qt::Key_Return);
+    EXPECT_EQ(form->findChild<QListWidget*>("Combo3")->isVisible(), true) << "row 5's amount box";
+    QTest::keyClick(panel->ingredientBox(19), Qt::Key_Return);
+    EXPECT_TRUE(panel->directionsBox()->hasFocus());
+}
+
+TEST_F(Form5Test, EnterInAnEmptyNameBoxAsksForTheName)
+{
+    auto form = open();
+    startRecipe(*form, "Breads", "");
+    dialogs.expectMessage("Enter Recipe Name", "Please Enter Recipe Name First");
+    QTest::keyClick(fields(*form)->nameBox(), Qt::Key_Return);
+}
+
+TEST_F(Form5Test, EnteringAnotherFieldBeforeTheNameAsksForIt)
+{
+    auto form = open();
+    ShowActive(*form);
+    startRecipe(*form, "Breads", "");
+    dialogs.expectMessage("Enter Recipe Name", "Please Enter Recipe Name First");
+    fields(*form)->ingredientBox(2)->setFocus(Qt::MouseFocusReason);
+    EXPECT_TRUE(fields(*form)->nameBox()->hasFocus());
+}
+
+TEST_F(Form5Test, TheNameBoxWithoutATypeAsksForTheType)
+{
+    auto form = open();
+    ShowActive(*form);
+    act(*form, "mCreate")->trigger();
+    fields(*form)->typeList()->setCurrentIndex(-1);
+    form->findChild<QPushButton*>("Command1_9")->setFocus(Qt::OtherFocusReason);
+    dialogs.expectMessage("Select Type", "Please select Type first.");
+    fields(*form)->nameBox()->setFocus(Qt::MouseFocusReason);
+    EXPECT_TRUE(fields(*form)->typeList()->hasFocus());
+}
+
+TEST_F(Form5Test, TheCurrentNamesPanelShowsTheTypesRecipesWhileANameIsTyped)
+{
+    auto form = open();
+    ShowActive(*form);
+    saveQuickRecipe(*form, "Stews", "Beef Stew");
+    act(*form, "mCreate")->trigger();
+    Choose(fields(*form)->typeList(), "Stews");
+    fields(*form)->nameBox()->setFocus(Qt::MouseFocusReason);
+    QFrame* panel = fields(*form)->currentNamesPanel();
+    EXPECT_TRUE(panel->isVisible());
+    ASSERT_EQ(fields(*form)->currentNamesList()->count(), 1);
+    EXPECT_EQ(fields(*form)->currentNamesList()->item(0)->text(), "Beef Stew");
+    dialogs.expectMessage("Current Recipe Names", "This list is used to display existing Recipes Only!");
+    emit fields(*form)->currentNamesList()->itemClicked(fields(*form)->currentNamesList()->item(0));
+    QTest::keyClicks(fields(*form)->nameBox(), "Lamb Stew");
+    fields(*form)->ingredientBox(0)->setFocus(Qt::MouseFocusReason);
+    EXPECT_FALSE(panel->isVisible());
+}
+
+TEST_F(Form5Test, TheFocusedFieldIsYellow)
+{
+    auto form = open();
+    ShowActive(*form);
+    startRecipe(*form, "Breads", "Rolls");
+    QLineEdit* ingredient = fields(*form)->ingredientBox(1);
+    ingredient->setFocus(Qt::MouseFocusReason);
+    EXPECT_EQ(ingredient->palette().color(QPalette::Base), QColor(255, 255, 0));
+    fields(*form)->ingredientBox(2)->setFocus(Qt::MouseFocusReason);
+    EXPECT_NE(ingredient->palette().color(QPalette::Base), QColor(255, 255, 0));
+}
+
+// ---- Modes and commands -------------------------------------------------------------------
+
+TEST_F(Form5Test, TheFourModesSetTheirCommands)
+{
+    auto form = open();
+    const auto enabled = [&](const char* name) { return act(*form, name)->isEnabled(); };
+    EXPECT_EQ(strip(*form), "Recipe Files");
+    EXPECT_TRUE(enabled("mCreate"));
+    EXPECT_TRUE(enabled("mView"));
+    EXPECT_FALSE(enabled("mModify"));
+    EXPECT_FALSE(enabled("mSave"));
+    EXPECT_FALSE(enabled("mDelete"));
+
+    startRecipe(*form, "Breads", "Rolls");
+    EXPECT_FALSE(enabled("mCreate"));
+    EXPECT_TRUE(enabled("mView"));
+    EXPECT_TRUE(enabled("mSave")) << "typing enables Save";
+    act(*form, "mSave")->trigger();
+
+    pick(*form, "Rolls");
+    EXPECT_TRUE(enabled("mCreate"));
+    EXPECT_FALSE(enabled("mView"));
+    EXPECT_TRUE(enabled("mModify"));
+    EXPECT_TRUE(enabled("mDelete"));
+    EXPECT_TRUE(enabled("mRename"));
+    EXPECT_FALSE(enabled("mSave"));
+
+    act(*form, "mModify")->trigger();
+    EXPECT_FALSE(enabled("mModify"));
+    EXPECT_TRUE(enabled("mDelete"));
+    EXPECT_FALSE(enabled("mSave"));
+
+    // The buttons follow their menu entries.
+    EXPECT_FALSE(form->findChild<QPushButton*>("Command1_2")->isEnabled());
+    EXPECT_TRUE(form->findChild<QPushButton*>("Command1_0")->isEnabled());
+    // Tools of later screens are not faked.
+    for (const char* later : {"mPrint", "mCalculate", "mSearch", "mSpelling", "mCopy", "mExport", "mImport"})
+        EXPECT_FALSE(enabled(later)) << later;
+}
+
+// ---- Cookbooks ----------------------------------------------------------------------------
+
+TEST_F(Form5Test, CaptionAndMenuComeFromTheTitles)
+{
+    WriteCookbookTitles({"Everyday", "Holidays"});
+    WriteCurrentCookbook(2);
+    WriteSlotText(QORBNAME, 1, u"Smith");
+    Process().FamilyName = "Smith";
+    auto form = open();
+    EXPECT_EQ(form->windowTitle(), "Smith Recipe File - Cookbook # 2 - Holidays");
+    EXPECT_EQ(act(*form, "mCookbook1")->text(), "Cookbook #1 - Everyday");
+    EXPECT_EQ(act(*form, "mCookbook3")->text(), "Cookbook #3 - ");
+    EXPECT_TRUE(act(*form, "mCookbook2")->isChecked());
+    EXPECT_FALSE(act(*form, "mCookbook1")->isChecked());
+}
+
+TEST_F(Form5Test, AllTitlesEmptyLeaveTheCaptionEndingInADash)
+{
+    auto form = open();
+    EXPECT_EQ(act(*form, "mCookbook3")->text(), "Cookbook #3 - ");
+    EXPECT_EQ(form->windowTitle(), " Recipe File - Cookbook # 1 - ");
+}
+
+TEST_F(Form5Test, SwitchingCookbooksWritesSlotOneAndUsesTheOtherFiles)
+{
+    auto form = open();
+    saveQuickRecipe(*form, "Stews", "Beef Stew");
+    act(*form, "mCookbook3")->trigger();
+    EXPECT_EQ(ReadSlotText(GColor4, 1), " 3");
+    EXPECT_EQ(form->cookbook(), 3);
+    EXPECT_TRUE(act(*form, "mCookbook3")->isChecked());
+    EXPECT_FALSE(act(*form, "mCookbook1")->isChecked());
+    saveQuickRecipe(*form, "Stews", "Lamb Stew");
+    EXPECT_EQ(folder.bytesOf("Stewnfil.db3"), NameFile({Entry("Lamb Stew", 1)}));
+    EXPECT_EQ(folder.bytesOf("Stewnfil.db1"), NameFile({Entry("Beef Stew", 1)}));
+    EXPECT_EQ(folder.bytesOf("Recipe2.db3").size(), 2045);
+}
+
+TEST_F(Form5Test, SwitchingCookbooksReachesALowerCaseGcolor4)
+{
+    ASSERT_TRUE(QFile::rename(folder.filePath("GColor4.Fil"), folder.filePath("Gcolor4.fil")));
+    auto form = open();
+    EXPECT_EQ(form->cookbook(), 1);
+    act(*form, "mCookbook5")->trigger();
+    EXPECT_FALSE(QFile::exists(folder.filePath("GColor4.Fil")));
+    EXPECT_EQ(folder.bytesOf("Gcolor4.fil").left(4), QByteArray("\x02\x00 5", 4));
+}
+
+TEST_F(Form5Test, SwitchingCookbooksAsksNothingAndDropsTheTypedRecipe)
+{
+    auto form = open();
+    startRecipe(*form, "Breads", "Rolls");
+    typeRow(*form, 0, "2", "cups", "flour");
+    act(*form, "mCookbook2")->trigger();
+    EXPECT_TRUE(dialogs.messages().isEmpty());
+    EXPECT_EQ(fields(*form)->ingredientBox(0)->text(), "");
+    EXPECT_EQ(form->mode(), RecipeMode::Idle);
+    EXPECT_TRUE(act(*form, "mCreate")->isEnabled());
+    EXPECT_TRUE(act(*form, "mView")->isEnabled());
+}
+
+TEST_F(Form5Test, SelectingTheCurrentCookbookClearsAndReloadsAllTheSame)
+{
+    auto form = open();
+    startRecipe(*form, "Breads", "Rolls");
+    act(*form, "mCookbook1")->trigger();
+    EXPECT_EQ(fields(*form)->nameBox()->text(), "");
+    EXPECT_TRUE(act(*form, "mCookbook1")->isChecked());
+    EXPECT_EQ(form->mode(), RecipeMode::Idle);
+}
+
+TEST_F(Form5Test, CookbookTitlesPanelSavesAndCloses)
+{
+    auto form = open();
+    act(*form, "mTitles")->trigger();
+    auto* panel = form->findChild<QFrame*>("Cookbook Titles");
+    ASSERT_FALSE(panel->isHidden());
+    auto* second = form->findChild<QLineEdit*>("Text11_1");
+    EXPECT_EQ(second->maxLength(), 30);
+    second->setText("Holidays");
+    form->findChild<QPushButton*>("cmdSaveTitles")->click();
+    EXPECT_TRUE(panel->isHidden());
+    EXPECT_EQ(ReadSlotText(GColor4, 3), "Holidays");
+    EXPECT_EQ(act(*form, "mCookbook2")->text(), "Cookbook #2 - Holidays");
+}
+
+TEST_F(Form5Test, ABlankTitleSavedLeavesAnEmptyTextSlot)
+{
+    WriteCookbookTitles({"Everyday"});
+    auto form = open();
+    act(*form, "mTitles")->trigger();
+    form->findChild<QLineEdit*>("Text11_0")->clear();
+    form->findChild<QPushButton*>("cmdSaveTitles")->click();
+    EXPECT_EQ(folder.bytesOf("GColor4.Fil").mid(40, 40), QByteArray(40, '\0'));
+    EXPECT_EQ(form->windowTitle(), " Recipe File - Cookbook # 1 - ");
+}
+
+TEST_F(Form5Test, CloseOfTheTitlesPanelSavesNothing)
+{
+    auto form = open();
+    act(*form, "mTitles")->trigger();
+    form->findChild<QLineEdit*>("Text11_0")->setText("Changed");
+    form->findChild<QPushButton*>("cmdCloseTitles")->click();
+    EXPECT_EQ(ReadSlotText(GColor4, 2), "");
+}
+
+// ---- Panel colour ---------------------------------------------------------------------------
+
+TEST_F(Form5Test, PanelColourIsReadFromItsSlot)
+{
+    WriteSlotText(GColor2, 25, u"65280"); // green in COLORREF order
+    auto form = open();
+    EXPECT_EQ(form->findChild<QLabel*>("SSPanel4")->palette().color(QPalette::Window), QColor(0, 255, 0));
+}
+
+TEST_F(Form5Test, PanelColourCommandAsksFirst)
+{
+    auto form = open();
+    dialogs.expectMessage("Panel Color",
+                          "Select New Color or Use System Default Color?\nYes = Color Selection Panel will appear.\n"
+                          "No = Current System Default Color will be selected.",
+                          Answer::Cancel);
+    act(*form, "mPanelColor")->trigger();
+    EXPECT_EQ(ReadSlotText(GColor2, 25), "");
+}
