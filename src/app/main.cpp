@@ -1,6 +1,7 @@
 // Brindlepot: a kitchen program for the family.
 #include "common/programfolder.h"
 #include "common/widgets/qtdialogs.h"
+#include "recipetools/screens/form5.h"
 #include "shell/logic/deliveredfiles.h"
 #include "shell/screens/screenmetrics.h"
 #include "shell/screens/startfrm.h"
@@ -17,6 +18,7 @@ int main(int argc, char** argv)
     QtDialogs dialogs;
     SystemScreenMetrics screen;
     Startfrm startfrm(dialogs, screen);
+    startfrm.registerActivity("mRecipeFiles", [&dialogs] { return new Form5(dialogs); });
     QObject::connect(&startfrm, &Startfrm::exitConfirmed, &app, [] { QApplication::exit(0); });
     startfrm.show();
     return app.exec();

@@ -5,11 +5,17 @@
 #include "recipetools/screens/recipefieldspanel.h"
 #include "shell/logic/processvalues.h"
 #include "shell/logic/settingsslots.h"
+#include "shell/screens/screenmetrics.h"
+#include "shell/screens/startfrm.h"
 #include "recipe_samples.h"
 #include "scripted_dialogs.h"
 #include "temp_program_folder.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -745,4 +751,37 @@ TEST_F(Form5Test, PanelColourCommandAsksFirst)
                           Answer::Cancel);
     act(*form, "mPanelColor")->trigger();
     EXPECT_EQ(ReadSlotText(GColor2, 25), "");
+}
+
+// ---- From the main screen ------------------------------------------------------------------
+
+namespace {
+class LargeScreen final : public ScreenMetrics {
+public:
+    QSize sizeTwips() const override { return {28800, 16200}; }
+};
+} // namespace
+
+TEST_F(Form5Test, TheMainScreensRecipeFileOpensTheRecipeScreenAndGetsTheFocusBack)
+{
+    Process().SplashShown = true;
+    LargeScreen screen;
+    Startfrm main(dialogs, screen);
+    main.registerActivity("mRecipeFiles", [this] { return new Form5(dialogs); });
+    auto* recipeButton = main.findChild<QPushButton*>("Command1_0");
+    ASSERT_TRUE(recipeButton->isEnabled());
+    recipeButton->click();
+    Form5* form = nullptr;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (auto* found = qobject_cast<Form5*>(window); found && found->isVisible())
+            form = found;
+    ASSERT_NE(form, nullptr);
+    EXPECT_EQ(form->windowTitle(), " Recipe File - Cookbook # 1 - ");
+    QTemporaryDir elsewhere;
+    QDir::setCurrent(elsewhere.path());
+    QSignalSpy closed(form, &ActivityWindow::closed);
+    form->close();
+    EXPECT_EQ(closed.count(), 1);
+    EXPECT_EQ(QDir::current().canonicalPath(), QDir(folder.path()).canonicalPath())
+        << "the main screen enters the program folder again";
 }

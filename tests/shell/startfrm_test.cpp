@@ -3,6 +3,7 @@
 #include "shell/logic/processvalues.h"
 #include "shell/logic/settingsslots.h"
 #include "shell/screens/about1.h"
+#include "shell/screens/activitywindow.h"
 #include "shell/screens/helpwindow.h"
 #include "shell/screens/screenmetrics.h"
 #include "shell/screens/splash1.h"
@@ -13,6 +14,8 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCloseEvent>
+#include <QPointer>
 #include <QDir>
 #include <QLabel>
 #include <QMenu>
@@ -491,4 +494,66 @@ TEST_F(StartfrmTest, ClosingTheWindowStoresItWithoutAQuestion)
     form.close();
     EXPECT_TRUE(dialogs.messages().isEmpty());
     EXPECT_EQ(ReadSlotText(GColor3, 35), "No");
+}
+
+// ---- Activity screens ----------------------------------------------------------------------
+
+namespace {
+class FakeActivity final : public ActivityWindow {
+public:
+    FakeActivity() { setAttribute(Qt::WA_DeleteOnClose); }
+
+protected:
+    void closeEvent(QCloseEvent* event) override
+    {
+        event->accept();
+        emit closed();
+    }
+};
+} // namespace
+
+TEST_F(StartfrmTest, ARegisteredActivityEnablesItsButtonAndMenuEntry)
+{
+    Startfrm form(dialogs, screen);
+    EXPECT_FALSE(button(form, 1)->isEnabled());
+    form.registerActivity("mFoodGuide", [] { return new FakeActivity; });
+    EXPECT_TRUE(button(form, 1)->isEnabled());
+    EXPECT_TRUE(action(form, "mFoodGuide")->isEnabled());
+}
+
+TEST_F(StartfrmTest, InTheSmallerScreenAnActivityTakesTheMainWindowsPlace)
+{
+    WriteSlotText(GColor3, 35, u"Yes");
+    Startfrm form(dialogs, screen);
+    form.show();
+    QPointer<FakeActivity> opened;
+    form.registerActivity("mFoodGuide", [&opened] { return opened = new FakeActivity; });
+    button(form, 1)->click();
+    ASSERT_TRUE(opened);
+    EXPECT_TRUE(opened->isVisible());
+    EXPECT_EQ(opened->geometry(), form.geometry());
+    button(form, 1)->click();
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    EXPECT_EQ(std::count_if(windows.begin(), windows.end(),
+                            [](QWidget* w) { return dynamic_cast<FakeActivity*>(w) && w->isVisible(); }),
+              1)
+        << "one window per activity";
+    opened->move(opened->pos() + QPoint(40, 30));
+    const QRect moved = opened->geometry();
+    QTemporaryDir elsewhere;
+    QDir::setCurrent(elsewhere.path());
+    opened->close();
+    EXPECT_EQ(form.geometry(), moved) << "the place is handed back";
+    EXPECT_EQ(QDir::current().canonicalPath(), QDir(folder.path()).canonicalPath());
+}
+
+TEST_F(StartfrmTest, InFullScreenAnActivityOpensMaximised)
+{
+    Startfrm form(dialogs, screen);
+    QPointer<FakeActivity> opened;
+    form.registerActivity("mFoodGuide", [&opened] { return opened = new FakeActivity; });
+    action(form, "mFoodGuide")->trigger();
+    ASSERT_TRUE(opened);
+    EXPECT_TRUE(opened->isMaximized());
+    opened->close();
 }

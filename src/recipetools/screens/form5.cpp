@@ -63,6 +63,7 @@ Form5::Form5(Dialogs& dialogs, QWidget* parent) : ActivityWindow(parent), dialog
     statusBar_ = new ScreenStatusBar(this);
     setStatusBar(statusBar_);
     buildMenus();
+    buildToolbars();
 
     auto* central = new QWidget(this);
     central->setObjectName(QStringLiteral("Form5Area"));
@@ -158,8 +159,7 @@ void Form5::selectCookbook(int cookbook)
     currentTypeName_.clear();
     loadCookbook();
     setMode(RecipeMode::Idle);
-    fields_->currentNamesPanel()->show();
-    fields_->currentNamesPanel()->raise();
+    fields_->showCurrentNames();
     statusBar_->setActivity(windowTitle());
     QApplication::processEvents();
     findChild<QWidget*>(QStringLiteral("Command1_1"))->setFocus(Qt::OtherFocusReason);
@@ -474,8 +474,7 @@ bool Form5::fieldEntryAllowed(QWidget* field, Qt::FocusReason reason)
             fields_->typeList()->setFocus(Qt::OtherFocusReason);
             return false;
         }
-        fields_->currentNamesPanel()->show();
-        fields_->currentNamesPanel()->raise();
+        fields_->showCurrentNames();
         return true;
     }
     if (fields_->nameBox()->text().isEmpty()) {

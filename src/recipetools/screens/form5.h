@@ -49,6 +49,7 @@ private:
     // Building (form5layout.cpp).
     QAction* addCommand(QMenu* menu, const char* objectName, const QString& caption);
     void buildMenus();
+    void buildToolbars();
     void buildCommandButtons(QWidget* parent, class QBoxLayout* layout);
     void buildCookbookMenu(QMenu* options);
 

@@ -3,12 +3,14 @@
 
 #include "common/widgets/commandbutton.h"
 #include "cookbook/logic/cookbookselection.h"
+#include "shell/screens/screentoolbars.h"
 
 #include <QAction>
 #include <QBoxLayout>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QToolBar>
 
 namespace {
 
@@ -83,6 +85,23 @@ void Form5::buildMenus()
     QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
     help->setObjectName(QStringLiteral("mHelpMenu"));
     addCommand(help, "mHelp", QStringLiteral("Recipe File &Help"))->setShortcut(QKeySequence(Qt::Key_F1));
+}
+
+void Form5::buildToolbars()
+{
+    auto* toolbars = new ScreenToolbars(this, statusBar_);
+    const auto put = [this](QToolBar* bar, std::initializer_list<const char*> names) {
+        for (const char* name : names)
+            bar->addAction(findChild<QAction*>(QString::fromLatin1(name)));
+    };
+    put(toolbars->top(), {"mCreate", "mView", "mModify", "mSave", "mDelete", "mPrint", "mCalculate", "mSearch",
+                          "mSpelling"});
+    toolbars->top()->addSeparator();
+    put(toolbars->top(), {"mHelp", "mExit"});
+    // The side toolbar: panel colour first, then the cookbook titles, the
+    // worksheet and the copy command.
+    put(toolbars->side(), {"mPanelColor", "mTitles", "mWorksheet", "mCopy"});
+    toolbars->applyFlags();
 }
 
 void Form5::buildCookbookMenu(QMenu* options)

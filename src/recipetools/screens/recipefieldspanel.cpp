@@ -256,6 +256,15 @@ QList<QWidget*> RecipeFieldsPanel::colouredPanels() const
     return frames_;
 }
 
+void RecipeFieldsPanel::showCurrentNames()
+{
+    const QRect name(nameStack_->mapTo(this, QPoint(0, 0)), nameStack_->size());
+    namesPanel_->resize(std::min(name.width(), 420), namesPanel_->height());
+    namesPanel_->move(name.right() - namesPanel_->width(), name.bottom() + 6);
+    namesPanel_->show();
+    namesPanel_->raise();
+}
+
 void RecipeFieldsPanel::setEntryCheck(std::function<bool(QWidget*, Qt::FocusReason)> check)
 {
     entryCheck_ = std::move(check);

@@ -34,6 +34,8 @@ public:
     QPlainTextEdit* directionsBox() const { return text2_; }
     QComboBox* yieldTypeList() const { return combo4_; }
     QFrame* currentNamesPanel() const { return namesPanel_; }
+    // Shows "Current Recipe Names" right under the name box.
+    void showCurrentNames();
     QListWidget* currentNamesList() const { return list1_; }
     // The widgets that take the screen's panel colour.
     QList<QWidget*> colouredPanels() const;

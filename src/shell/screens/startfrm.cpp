@@ -82,6 +82,8 @@ Startfrm::Startfrm(Dialogs& dialogs, const ScreenMetrics& screen, QWidget* paren
     statusBar_->setActivity(QStringLiteral("Main Menu"));
     setStatusBar(statusBar_);
 
+    activities_ = new ActivityHost(this);
+    connect(activities_, &ActivityHost::activityClosed, this, &Startfrm::focusGained);
     buildMenus();
     buildCommandPanel();
 
@@ -324,6 +326,11 @@ void Startfrm::updateDisplayTicks()
     mFullScreen_->setChecked(!windowed);
     mSmallerScreen_->setChecked(windowed);
     mDefaultSize_->setChecked(false);
+}
+
+void Startfrm::registerActivity(const char* actionName, ActivityHost::Factory factory)
+{
+    activities_->add(findChild<QAction*>(QString::fromLatin1(actionName)), std::move(factory));
 }
 
 void Startfrm::focusGained()

@@ -2,6 +2,7 @@
 // The main screen. It stays for the life of the process and opens every
 // activity from its nine buttons or its menus.
 #include "shell/logic/background.h"
+#include "shell/screens/activityhost.h"
 
 #include <QMainWindow>
 
@@ -28,6 +29,10 @@ public:
     // What the main screen does each time it gets the focus back: window
     // mode ticks, date form, background size, panel position, program folder.
     void focusGained();
+
+    // Makes the command `actionName` (a button and a menu entry) open its
+    // activity screen; commands without one stay disabled.
+    void registerActivity(const char* actionName, ActivityHost::Factory factory);
 
 signals:
     // The user confirmed "E&xit": the window is stored, the process ends.
@@ -69,6 +74,7 @@ private:
 
     Dialogs& dialogs_;
     const ScreenMetrics& screen_;
+    ActivityHost* activities_ = nullptr;
     Background background_;
     bool starting_ = false;          // blocks the resize rules while the start runs
 
