@@ -391,3 +391,16 @@ TEST(RebuildNameFile, EntriesWithAccentsAreWindows1252)
 }
 
 } // namespace
+
+TEST(CookbookHasRecipes, AnyUsedSlotCounts)
+{
+    TempProgramFolder folder;
+    EXPECT_FALSE(CookbookHasRecipes(1));
+    ASSERT_TRUE(WriteRecipe(1, 3, RecipeRecord::Cleared(), {}));
+    EXPECT_FALSE(CookbookHasRecipes(1)) << "deleted and empty slots are no recipes";
+    RecipeRecord used = RecipeRecord::Cleared();
+    used.markUsed();
+    ASSERT_TRUE(WriteRecipe(1, 2, used, {}));
+    EXPECT_TRUE(CookbookHasRecipes(1));
+    EXPECT_FALSE(CookbookHasRecipes(2));
+}

@@ -17,6 +17,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -221,11 +222,13 @@ TEST_F(Form5Test, NoInTheSaveQuestionLosesTheDataAndGoesOn)
     startRecipe(*form, "Dips", "Onion Dip");
     typeRow(*form, 0, "1", "cup", "sour cream");
     dialogs.expectMessage(kRecipeFile, kSaveQuestion, Answer::No);
-    dialogs.expectMessage("Recipe Files", "No Recipes for Dips were found!");
-    act(*form, "mView")->trigger();
+    Choose(fields(*form)->typeList(), "Stews");
+    ASSERT_EQ(dialogs.messages().size(), 1);
     EXPECT_EQ(dialogs.messages().first().buttons, Buttons::YesNoCancel);
     EXPECT_EQ(dialogs.messages().first().icon, Icon::Question);
-    EXPECT_EQ(form->mode(), RecipeMode::View);
+    EXPECT_EQ(fields(*form)->typeList()->currentText(), "Stews");
+    EXPECT_EQ(fields(*form)->ingredientBox(0)->text(), "") << "the typed recipe is gone";
+    EXPECT_FALSE(form->recipeChanged());
     EXPECT_EQ(folder.bytesOf("Recipe2.db1"), QByteArray()) << "nothing was saved";
 }
 
@@ -235,8 +238,11 @@ TEST_F(Form5Test, YesInTheSaveQuestionSavesFirst)
     startRecipe(*form, "Dips", "Onion Dip");
     typeRow(*form, 0, "1", "cup", "sour cream");
     dialogs.expectMessage(kRecipeFile, kSaveQuestion, Answer::Yes);
-    act(*form, "mView")->trigger();
+    // The save leaves the screen viewing; the new type has nothing to view.
+    dialogs.expectMessage("Recipe Files", "No Recipes for Stews were found!");
+    Choose(fields(*form)->typeList(), "Stews");
     EXPECT_EQ(folder.bytesOf("Dipsnfil.db1"), NameFile({Entry("Onion Dip", 1)}));
+    EXPECT_EQ(fields(*form)->typeList()->currentText(), "Stews") << "the action goes on";
 }
 
 TEST_F(Form5Test, CancelInTheSaveQuestionOfAnotherTypePutsTheOldTypeBack)
@@ -602,7 +608,7 @@ TEST_F(Form5Test, TheFourModesSetTheirCommands)
 
     startRecipe(*form, "Breads", "Rolls");
     EXPECT_FALSE(enabled("mCreate"));
-    EXPECT_TRUE(enabled("mView"));
+    EXPECT_FALSE(enabled("mView")) << "the cookbook has no recipe yet";
     EXPECT_TRUE(enabled("mSave")) << "typing enables Save";
     act(*form, "mSave")->trigger();
 
@@ -784,4 +790,26 @@ TEST_F(Form5Test, TheMainScreensRecipeFileOpensTheRecipeScreenAndGetsTheFocusBac
     EXPECT_EQ(closed.count(), 1);
     EXPECT_EQ(QDir::current().canonicalPath(), QDir(folder.path()).canonicalPath())
         << "the main screen enters the program folder again";
+}
+
+TEST_F(Form5Test, CreateInAnEmptyCookbookLeavesViewOff)
+{
+    auto form = open();
+    act(*form, "mCreate")->trigger();
+    EXPECT_FALSE(act(*form, "mView")->isEnabled());
+    saveQuickRecipe(*form, "Stews", "Beef Stew");
+    act(*form, "mCreate")->trigger();
+    EXPECT_TRUE(act(*form, "mView")->isEnabled());
+}
+
+TEST_F(Form5Test, ARightClickOpensTheOptionsMenu)
+{
+    auto form = open();
+    form->show();
+    auto* strip = form->findChild<QLabel*>("SSPanel4");
+    QContextMenuEvent click(QContextMenuEvent::Mouse, QPoint(4, 4), strip->mapToGlobal(QPoint(4, 4)));
+    QApplication::sendEvent(strip, &click);
+    auto* options = form->findChild<QMenu*>("mOptions");
+    EXPECT_TRUE(options->isVisible());
+    options->close();
 }

@@ -18,6 +18,28 @@ void LetPendingEventsRun()
         QCoreApplication::processEvents();
 }
 
+// The first of slots 1 to 30000 (and inside the file) whose used state is
+// `used`; 0 when there is none. Only the five mark bytes of each record
+// decide; the records are read in blocks because a whole file of used slots
+// is tens of megabytes.
+qint64 FirstSlotWhoseMarkIs(int cookbook, bool used, qint64* present = nullptr)
+{
+    RandomAccessFile recipes(RecipeFileName(cookbook), RecipeRecord::kSize);
+    const qint64 inFile = std::min<qint64>(recipes.recordCount(), kLastScannedSlot);
+    if (present)
+        *present = inFile;
+    for (qint64 first = 1; first <= inFile; first += kRecipeScanBlock) {
+        const qint64 count = std::min(kRecipeScanBlock, inFile - first + 1);
+        const QByteArray block = recipes.readRecords(first, count);
+        const char* record = block.constData();
+        for (qint64 i = 0; i < count; ++i, record += RecipeRecord::kSize) {
+            if (RecipeRecord::IsUsedMark(record + RecipeRecord::kSlotMarkOffset) == used)
+                return first + i;
+        }
+    }
+    return 0;
+}
+
 } // namespace
 
 StoredRecipe ReadRecipe(int cookbook, RecordNumber recordNumber)
@@ -44,21 +66,15 @@ bool WriteRecipe(int cookbook, RecordNumber recordNumber, const RecipeRecord& re
 
 RecordNumber FindFreeSlot(int cookbook)
 {
-    RandomAccessFile recipes(RecipeFileName(cookbook), RecipeRecord::kSize);
-    const qint64 present = std::min<qint64>(recipes.recordCount(), kLastScannedSlot);
-    // Only the five mark bytes of each record decide; the records are read
-    // in blocks because a whole file of used slots is tens of megabytes.
-    for (qint64 first = 1; first <= present; first += kRecipeScanBlock) {
-        const qint64 count = std::min(kRecipeScanBlock, present - first + 1);
-        const QByteArray block = recipes.readRecords(first, count);
-        const char* record = block.constData();
-        for (qint64 i = 0; i < count; ++i, record += RecipeRecord::kSize) {
-            if (!RecipeRecord::IsUsedMark(record + RecipeRecord::kSlotMarkOffset))
-                return RecordNumber(first + i);
-        }
-    }
-    // The first slot past the end, or 30001 when the scan ran through.
-    return RecordNumber(present + 1);
+    qint64 present = 0;
+    const qint64 free = FirstSlotWhoseMarkIs(cookbook, false, &present);
+    // Else the first slot past the end, or 30001 when the scan ran through.
+    return RecordNumber(free > 0 ? free : present + 1);
+}
+
+bool CookbookHasRecipes(int cookbook)
+{
+    return FirstSlotWhoseMarkIs(cookbook, true) > 0;
 }
 
 bool ClearRecipe(int cookbook, RecordNumber recordNumber)

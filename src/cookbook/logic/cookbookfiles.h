@@ -38,6 +38,9 @@ bool WriteRecipe(int cookbook, RecordNumber recordNumber, const RecipeRecord& re
 // used. Creates the recipe file when it does not exist.
 RecordNumber FindFreeSlot(int cookbook);
 
+// True when any of slots 1 to 30000 holds a recipe.
+bool CookbookHasRecipes(int cookbook);
+
 // Every field blank, the slot marked "****" and the picture path empty. The
 // slot stays in the file, free for the next new recipe.
 bool ClearRecipe(int cookbook, RecordNumber recordNumber);

@@ -9,7 +9,8 @@ RecipeCommandStates CommandStatesFor(const RecipeScreenState& state)
     const bool shown = state.recipeShown
         && (state.mode == RecipeMode::View || state.mode == RecipeMode::Modify);
     on.create = state.mode != RecipeMode::Create;
-    on.view = state.mode == RecipeMode::Idle || state.mode == RecipeMode::Create;
+    // From Create, View only leads somewhere when the cookbook has recipes.
+    on.view = state.mode == RecipeMode::Idle || (state.mode == RecipeMode::Create && state.cookbookHasRecipes);
     on.modify = shown && state.mode == RecipeMode::View;
     on.save = state.recipeChanged || state.amountsRecalculated;
     on.spelling = editing && state.recipeChanged;

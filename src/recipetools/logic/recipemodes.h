@@ -14,7 +14,8 @@ struct RecipeScreenState {
     bool recipeShown = false;           // a recipe was loaded from its slot
     bool recipeChanged = false;         // RecipeChanged
     bool amountsRecalculated = false;   // AmountsRecalculated is 9
-    bool panelOpen = false;             // the rename or the titles panel
+    bool panelOpen = false;             // the rename panel
+    bool cookbookHasRecipes = false;    // any slot of the cookbook is used
 };
 
 struct RecipeCommandStates {

@@ -18,6 +18,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -436,6 +437,11 @@ void Form5::exitScreen()
     close();
 }
 
+void Form5::contextMenuEvent(QContextMenuEvent* event)
+{
+    findChild<QMenu*>(QStringLiteral("mOptions"))->popup(event->globalPos());
+}
+
 void Form5::closeEvent(QCloseEvent* event)
 {
     if (state_.recipeChanged || state_.amountsRecalculated) {
@@ -517,6 +523,8 @@ void Form5::informUser(const QString& title, const QString& text)
 void Form5::setMode(RecipeMode mode)
 {
     state_.mode = mode;
+    if (mode == RecipeMode::Create)
+        state_.cookbookHasRecipes = CookbookHasRecipes(cookbook_);
     const bool editing = mode == RecipeMode::Create || mode == RecipeMode::Modify;
     fields_->setEditable(editing);
     fields_->showNameBox(mode == RecipeMode::Create);

@@ -44,6 +44,8 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    // A right click on a panel or label opens the Options menu.
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     // Building (form5layout.cpp).

@@ -1,0 +1,72 @@
+// Which commands each mode of the recipe screen allows, one row per state.
+#include "recipetools/logic/recipemodes.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Row {
+    const char* name;
+    RecipeScreenState state;
+    RecipeCommandStates expected;
+};
+
+RecipeScreenState State(RecipeMode mode, bool shown = false, bool changed = false, bool recalculated = false,
+                        bool panel = false, bool hasRecipes = true)
+{
+    return {mode, shown, changed, recalculated, panel, hasRecipes};
+}
+
+// create, view, modify, save, delete, rename, print, calculate, spelling,
+// copy, export, import, cookbook menus
+RecipeCommandStates On(std::initializer_list<int> bits)
+{
+    const auto b = [&](int i) { return *(bits.begin() + i) != 0; };
+    return {b(0), b(1), b(2), b(3), b(4), b(5), b(6), b(7), b(8), b(9), b(10), b(11), b(12)};
+}
+
+} // namespace
+
+TEST(RecipeModes, CommandStatesByMode)
+{
+    const Row rows[] = {
+        {"idle", State(RecipeMode::Idle), On({1, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1})},
+        {"create, nothing typed", State(RecipeMode::Create), On({0, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1, 1})},
+        {"create in an empty cookbook", State(RecipeMode::Create, false, false, false, false, false),
+         On({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1, 1})},
+        {"create, typed", State(RecipeMode::Create, false, true), On({0, 1, 0, 1, 0, 0, 0, 0, 1, 0, 0, 1, 1})},
+        {"view, list open", State(RecipeMode::View), On({1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1})},
+        {"view, recipe shown", State(RecipeMode::View, true), On({1, 0, 1, 0, 1, 1, 1, 1, 0, 1, 1, 0, 1})},
+        {"view after the calculator", State(RecipeMode::View, true, false, true),
+         On({1, 0, 1, 1, 1, 1, 1, 1, 0, 1, 1, 0, 1})},
+        {"modify", State(RecipeMode::Modify, true), On({1, 0, 0, 0, 1, 1, 1, 1, 0, 0, 0, 0, 1})},
+        {"modify, typed", State(RecipeMode::Modify, true, true), On({1, 0, 0, 1, 1, 1, 1, 1, 1, 1, 0, 0, 1})},
+        {"rename panel open", State(RecipeMode::View, true, false, false, true),
+         On({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0})},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const RecipeCommandStates on = CommandStatesFor(row.state);
+        EXPECT_EQ(on.create, row.expected.create);
+        EXPECT_EQ(on.view, row.expected.view);
+        EXPECT_EQ(on.modify, row.expected.modify);
+        EXPECT_EQ(on.save, row.expected.save);
+        EXPECT_EQ(on.deleteRecipe, row.expected.deleteRecipe);
+        EXPECT_EQ(on.rename, row.expected.rename);
+        EXPECT_EQ(on.print, row.expected.print);
+        EXPECT_EQ(on.calculate, row.expected.calculate);
+        EXPECT_EQ(on.spelling, row.expected.spelling);
+        EXPECT_EQ(on.copy, row.expected.copy);
+        EXPECT_EQ(on.exportRecipe, row.expected.exportRecipe);
+        EXPECT_EQ(on.importRecipe, row.expected.importRecipe);
+        EXPECT_EQ(on.cookbookMenus, row.expected.cookbookMenus);
+    }
+}
+
+TEST(RecipeModes, TitleStripCaptions)
+{
+    EXPECT_STREQ(ModeCaption(RecipeMode::Idle), "Recipe Files");
+    EXPECT_STREQ(ModeCaption(RecipeMode::Create), "Create Recipe");
+    EXPECT_STREQ(ModeCaption(RecipeMode::View), "View Recipe");
+    EXPECT_STREQ(ModeCaption(RecipeMode::Modify), "Modify Recipe");
+}
