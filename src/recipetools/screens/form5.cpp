@@ -247,14 +247,23 @@ void Form5::fillTypeLists(bool openPickList)
     }
 }
 
-void Form5::createRecipe()
+// The start of "&Create" and "&View": the first type when none is chosen,
+// the save question, the flags cleared. False when the user cancelled.
+bool Form5::beginCreateOrView()
 {
     if (!chosenType())
         fields_->typeList()->setCurrentText(kFirstType);
     if (!saveQuestionAllowsAction())
-        return;
+        return false;
     state_.recipeChanged = false;
     state_.amountsRecalculated = false;
+    return true;
+}
+
+void Form5::createRecipe()
+{
+    if (!beginCreateOrView())
+        return;
     picturePath_.clear();
     clearScreen();
     setMode(RecipeMode::Create);
@@ -264,12 +273,8 @@ void Form5::createRecipe()
 
 void Form5::viewRecipes()
 {
-    if (!chosenType())
-        fields_->typeList()->setCurrentText(kFirstType);
-    if (!saveQuestionAllowsAction())
+    if (!beginCreateOrView())
         return;
-    state_.recipeChanged = false;
-    state_.amountsRecalculated = false;
     setMode(RecipeMode::View);
     clearScreen();
     currentTypeName_ = fields_->typeList()->currentText();

@@ -65,6 +65,7 @@ private:
     bool saveQuestionAllowsAction();
     void chooseType();
     void fillTypeLists(bool openPickList);
+    bool beginCreateOrView();
     void createRecipe();
     void viewRecipes();
     void loadChosenRecipe(int index);
