@@ -1,9 +1,7 @@
 #include "recipetools/screens/form5.h"
 
 #include "common/dialogs.h"
-#include "common/programfolder.h"
 #include "cookbook/logic/cookbookfiles.h"
-#include "cookbook/logic/cookbookselection.h"
 #include "cookbook/logic/nameentry.h"
 #include "recipetools/logic/amountformat.h"
 #include "recipetools/screens/cookbooktitlespanel.h"
