@@ -2,6 +2,7 @@
 // the whole range the calculator can produce: every hundredth of every whole
 // part from 0 to 999 lands where the fraction table says.
 #include "recipetools/logic/amountformat.h"
+#include "fraction_lines.h"
 
 #include <QString>
 #include <cmath>
@@ -66,31 +67,20 @@ TEST(FormatAmount, TooLargeForASingleShowsNothing)
     EXPECT_EQ(FormatAmount(u"-1E+300"), "");
 }
 
-// What the "Covers these hundredths" column of the calculator's table says
-// for whole part `whole` and hundredths `hundredths`.
+// What the fraction table shows for whole part `whole` and hundredths
+// `hundredths` of a raw stored amount.
 QString ExpectedForHundredths(int whole, int hundredths)
 {
+    const fraction_lines::CoveredLine line = fraction_lines::LineForHundredths(hundredths);
     const QString wholeText = QString::number(whole);
-    auto withFraction = [&](const char* fraction) {
-        return whole == 0 ? QString::fromLatin1(fraction) : wholeText + ' ' + fraction;
-    };
-    if (hundredths == 0)
-        return whole == 0 ? QString() : wholeText;
-    if (hundredths <= 9)
-        return whole == 0 ? QString() : wholeText + ' ';
-    if (hundredths <= 19)
-        return withFraction("1/8");
-    if (hundredths <= 29)
-        return withFraction("1/4");
-    if (hundredths <= 40)
-        return withFraction("1/3");
-    if (hundredths <= 60)
-        return withFraction("1/2");
-    if (hundredths <= 70)
-        return withFraction("2/3");
-    if (hundredths <= 85)
-        return withFraction("3/4");
-    return QString::number(whole + 1) + ' ';
+    if (line.nextWhole)
+        return QString::number(whole + 1) + ' ';
+    if (line.fractionText.isEmpty()) {
+        if (whole == 0)
+            return QString();
+        return hundredths == 0 ? wholeText : wholeText + ' ';
+    }
+    return whole == 0 ? line.fractionText : wholeText + ' ' + line.fractionText;
 }
 
 TEST(FormatAmount, EveryHundredthOfWholePartsZeroTo999)
@@ -98,9 +88,7 @@ TEST(FormatAmount, EveryHundredthOfWholePartsZeroTo999)
     int failures = 0;
     for (int whole = 0; whole <= 999; ++whole) {
         for (int hundredths = 0; hundredths <= 99; ++hundredths) {
-            // As the record stores it: no zero in front of the point.
-            const QString decimal = (whole == 0 ? QString() : QString::number(whole)) + '.'
-                + QString::number(hundredths).rightJustified(2, u'0');
+            const QString decimal = fraction_lines::DecimalOf(whole, hundredths);
             const QString expected = ExpectedForHundredths(whole, hundredths);
             const QString shown = FormatAmount(decimal);
             if (shown != expected && ++failures <= 20)

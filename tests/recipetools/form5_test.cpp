@@ -24,6 +24,7 @@
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTableWidget>
 #include <QTest>
 #include <gtest/gtest.h>
 #include <memory>
@@ -629,7 +630,9 @@ TEST_F(Form5Test, TheFourModesSetTheirCommands)
     EXPECT_FALSE(form->findChild<QPushButton*>("Command1_2")->isEnabled());
     EXPECT_TRUE(form->findChild<QPushButton*>("Command1_0")->isEnabled());
     // Tools of later screens are not faked.
-    for (const char* later : {"mPrint", "mCalculate", "mSearch", "mSpelling", "mCopy", "mExport", "mImport"})
+    EXPECT_TRUE(enabled("mCalculate"));
+    EXPECT_TRUE(enabled("mSearch"));
+    for (const char* later : {"mPrint", "mSpelling", "mCopy", "mExport", "mImport"})
         EXPECT_FALSE(enabled(later)) << later;
 }
 
@@ -812,4 +815,190 @@ TEST_F(Form5Test, ARightClickOpensTheOptionsMenu)
     auto* options = form->findChild<QMenu*>("mOptions");
     EXPECT_TRUE(options->isVisible());
     options->close();
+}
+
+// ---- The amount calculator ------------------------------------------------------------------
+
+class Form5CalculatorTest : public Form5Test {
+protected:
+    // A recipe of 1 cup of flour and .33 tsp. of salt that yields 4, saved and viewed.
+    void viewFourServings(Form5& form)
+    {
+        startRecipe(form, "Breads", "Biscuits");
+        typeRow(form, 0, "1", "cup", "flour");
+        typeRow(form, 1, ".33", "tsp.", "salt");
+        QTest::keyClicks(form.findChild<QLineEdit*>("Text6"), "4");
+        act(form, "mSave")->trigger();
+        pick(form, "Biscuits");
+    }
+    QLineEdit* newYield(Form5& form) { return form.findChild<QLineEdit*>("Text9"); }
+    void calculate(Form5& form, const QString& yield)
+    {
+        newYield(form)->setText(yield);
+        form.findChild<QPushButton*>("Command9")->click();
+    }
+};
+
+TEST_F(Form5CalculatorTest, ScalingAViewedRecipeAndSavingRewritesItsSlotOnly)
+{
+    auto form = open();
+    viewFourServings(*form);
+    const QByteArray names = folder.bytesOf("Breanfil.db1");
+    act(*form, "mCalculate")->trigger();
+    EXPECT_EQ(strip(*form), "Calculate Amts.");
+    EXPECT_EQ(form->findChild<QLabel*>("Label20")->text(), "4");
+    EXPECT_FALSE(act(*form, "mModify")->isEnabled());
+    EXPECT_FALSE(act(*form, "mDelete")->isEnabled());
+    calculate(*form, "6");
+    EXPECT_EQ(fields(*form)->amountBox(0)->text(), "1 1/2");
+    EXPECT_EQ(fields(*form)->unitBox(0)->text(), "cups");
+    EXPECT_EQ(fields(*form)->amountBox(1)->text(), "1/2");
+    EXPECT_EQ(form->amountWorkList()[0], "1.5");
+    EXPECT_EQ(form->findChild<QLineEdit*>("Text6")->text(), "6");
+    EXPECT_EQ(form->findChild<QLabel*>("Label20")->text(), "6");
+    EXPECT_FALSE(act(*form, "mSave")->isEnabled()) << "Save waits until the panel closes";
+    form->findChild<QPushButton*>("Command10")->click();
+    EXPECT_EQ(strip(*form), "View Recipe");
+    EXPECT_TRUE(act(*form, "mSave")->isEnabled());
+    act(*form, "mSave")->trigger();
+    EXPECT_EQ(folder.bytesOf("Breanfil.db1"), names) << "the name file stays unchanged";
+    EXPECT_EQ(folder.bytesOf("Recipe2.db1").mid(0, 10), "1.5  .5   ");
+    EXPECT_EQ(folder.bytesOf("Recipe2.db1").mid(1104, 10), "cups      ");
+    EXPECT_EQ(folder.bytesOf("Recipe2.db1").mid(2004, 5), "6    ");
+}
+
+TEST_F(Form5CalculatorTest, NoYieldMeansNoCalculator)
+{
+    auto form = open();
+    startRecipe(*form, "Breads", "Biscuits");
+    typeRow(*form, 0, "1", "cup", "flour");
+    act(*form, "mSave")->trigger();
+    pick(*form, "Biscuits");
+    dialogs.expectMessage("Calculate Serving Information",
+                          "There is no current Serving Information\nto perform new calculations on!");
+    act(*form, "mCalculate")->trigger();
+    EXPECT_TRUE(form->findChild<QFrame*>("Recipe Amount Calculator")->isHidden());
+    EXPECT_EQ(strip(*form), "View Recipe");
+}
+
+TEST_F(Form5CalculatorTest, AYieldOutOfRangeIsRefused)
+{
+    auto form = open();
+    viewFourServings(*form);
+    act(*form, "mCalculate")->trigger();
+    dialogs.expectMessage("Yield Entry Error", "New Yield Amounts can only be between .5 and 999.");
+    calculate(*form, "1000");
+    EXPECT_EQ(newYield(*form)->text(), "");
+    EXPECT_EQ(fields(*form)->amountBox(0)->text(), "1") << "nothing changed";
+}
+
+TEST_F(Form5CalculatorTest, ACurrentYieldOfZeroIsACalculationError)
+{
+    auto form = open();
+    startRecipe(*form, "Breads", "Biscuits");
+    typeRow(*form, 0, "1", "cup", "flour");
+    QTest::keyClicks(form->findChild<QLineEdit*>("Text6"), "0");
+    act(*form, "mSave")->trigger();
+    pick(*form, "Biscuits");
+    act(*form, "mCalculate")->trigger();
+    dialogs.expectMessage("Amount Calculator Error",
+                          "A calculation Error has occured! Most likely an incorreect number was used for the "
+                          "Recipe Yield or the amount boxes contain an inappropriate number or the maximun amount "
+                          "limit of 999 was exceeded");
+    calculate(*form, "2");
+    EXPECT_FALSE(form->findChild<QFrame*>("Recipe Amount Calculator")->isHidden()) << "the panel stays";
+    form->findChild<QPushButton*>("Command10")->click();
+    EXPECT_FALSE(act(*form, "mSave")->isEnabled());
+}
+
+TEST_F(Form5CalculatorTest, InModifyModeTheBoxesKeepDecimals)
+{
+    auto form = open();
+    viewFourServings(*form);
+    act(*form, "mModify")->trigger();
+    act(*form, "mCalculate")->trigger();
+    EXPECT_EQ(strip(*form), "Calculate Amts.");
+    calculate(*form, "8");
+    EXPECT_EQ(fields(*form)->amountBox(0)->text(), "2");
+    EXPECT_EQ(fields(*form)->amountBox(1)->text(), ".67");
+    form->findChild<QPushButton*>("Command10")->click();
+    EXPECT_EQ(strip(*form), "Modify Recipe");
+    EXPECT_FALSE(act(*form, "mModify")->isEnabled());
+}
+
+TEST_F(Form5CalculatorTest, TypingANewYieldFollowsTheYieldType)
+{
+    auto form = open();
+    startRecipe(*form, "Cakes, frostings, and fillings", "Sponge");
+    typeRow(*form, 0, "2", "cups", "flour");
+    QTest::keyClicks(form->findChild<QLineEdit*>("Text6"), "1");
+    fields(*form)->yieldTypeList()->setEditText("Cake");
+    act(*form, "mSave")->trigger();
+    pick(*form, "Sponge");
+    act(*form, "mCalculate")->trigger();
+    QTest::keyClicks(newYield(*form), "2");
+    EXPECT_EQ(form->findChild<QLabel*>("Label24")->text(), "Cakes");
+    EXPECT_EQ(fields(*form)->yieldTypeList()->currentText(), "Cakes");
+}
+
+// ---- Search ---------------------------------------------------------------------------------
+
+TEST_F(Form5Test, SearchByNameCarriesTheChosenRecipeBackIntoTheScreen)
+{
+    auto form = open();
+    saveQuickRecipe(*form, "Stews", "Beef Stew");
+    saveQuickRecipe(*form, "Soups and sauces", "Beef Broth");
+    saveQuickRecipe(*form, "Soups and sauces", "Onion Soup");
+    act(*form, "mSearch")->trigger();
+    EXPECT_FALSE(form->findChild<QMenu*>("mSelectCookbook")->isEnabled());
+    EXPECT_FALSE(act(*form, "mTitles")->isEnabled());
+    EXPECT_FALSE(act(*form, "mRename")->isEnabled());
+    form->findChild<QPushButton*>("cmdSearchByRecipe")->click();
+    auto* box = form->findChild<QLineEdit*>("Text12");
+    ASSERT_NE(box, nullptr);
+    box->setText("beef");
+    form->findChild<QPushButton*>("cmdSearchNames")->click();
+    auto* grid = form->findChild<QTableWidget*>("VSFlexGrid1");
+    ASSERT_EQ(grid->rowCount(), 2);
+    EXPECT_EQ(grid->item(0, 0)->text(), "Soups and sauces");
+    EXPECT_EQ(grid->item(1, 0)->text(), "Stews");
+    grid->selectRow(0);
+    form->findChild<QPushButton*>("cmdViewSelectedName")->click();
+    EXPECT_TRUE(dialogs.messages().isEmpty());
+    EXPECT_EQ(fields(*form)->typeList()->currentText(), "Soups and sauces");
+    EXPECT_EQ(fields(*form)->pickList()->currentText(), "Beef Broth");
+    EXPECT_EQ(form->currentRecordNumber(), 2);
+    EXPECT_EQ(form->mode(), RecipeMode::View);
+    EXPECT_TRUE(act(*form, "mTitles")->isEnabled()) << "the cookbook menus come back";
+}
+
+TEST_F(Form5Test, IngredientSearchWithoutAnIngredientIsRefused)
+{
+    auto form = open();
+    act(*form, "mSearch")->trigger();
+    form->findChild<QPushButton*>("cmdSearchByIngredient")->click();
+    dialogs.expectMessage("Search", "Please enter at least one ingredient to Search");
+    form->findChild<QPushButton*>("cmdSearchAllRecipes")->click();
+    EXPECT_EQ(dialogs.messages().last().icon, Icon::Question);
+    dialogs.expectMessage("Search", "Please Select Type of Recipe to Search");
+    dialogs.expectMessage("Search", "Please enter at least one ingredient to Search");
+    form->findChild<QPushButton*>("cmdSearchByType")->click();
+}
+
+TEST_F(Form5Test, IngredientSearchFindsTheRecipe)
+{
+    auto form = open();
+    startRecipe(*form, "Breads", "Egg Bread");
+    typeRow(*form, 0, "2", "whole", "eggs");
+    act(*form, "mSave")->trigger();
+    saveQuickRecipe(*form, "Breads", "Plain Bread");
+    act(*form, "mSearch")->trigger();
+    form->findChild<QPushButton*>("cmdSearchByIngredient")->click();
+    form->findChild<QLineEdit*>("Text13")->setText(" egg");
+    form->findChild<QPushButton*>("cmdSearchAllRecipes")->click();
+    auto* grid = form->findChild<QTableWidget*>("VSFlexGrid2");
+    ASSERT_EQ(grid->rowCount(), 1);
+    EXPECT_EQ(grid->item(0, 0)->text(), "Breads");
+    form->findChild<QPushButton*>("cmdCloseIngredientSearch")->click();
+    EXPECT_TRUE(act(*form, "mCreate")->isEnabled());
 }

@@ -12,17 +12,37 @@ struct Row {
 };
 
 RecipeScreenState State(RecipeMode mode, bool shown = false, bool changed = false, bool recalculated = false,
-                        bool panel = false, bool hasRecipes = true)
+                        bool panel = false, bool hasRecipes = true, bool calculator = false, bool search = false)
 {
-    return {mode, shown, changed, recalculated, panel, hasRecipes};
+    return {.mode = mode,
+            .recipeShown = shown,
+            .recipeChanged = changed,
+            .amountsRecalculated = recalculated,
+            .panelOpen = panel,
+            .calculatorOpen = calculator,
+            .searchOpen = search,
+            .cookbookHasRecipes = hasRecipes};
 }
 
-// create, view, modify, save, delete, rename, print, calculate, spelling,
-// copy, export, import, cookbook menus
+// create, view, modify, save, delete, rename, print, calculate, search,
+// spelling, copy, export, import, cookbook menus
 RecipeCommandStates On(std::initializer_list<int> bits)
 {
     const auto b = [&](int i) { return *(bits.begin() + i) != 0; };
-    return {b(0), b(1), b(2), b(3), b(4), b(5), b(6), b(7), b(8), b(9), b(10), b(11), b(12)};
+    return {.create = b(0),
+            .view = b(1),
+            .modify = b(2),
+            .save = b(3),
+            .deleteRecipe = b(4),
+            .rename = b(5),
+            .print = b(6),
+            .calculate = b(7),
+            .search = b(8),
+            .spelling = b(9),
+            .copy = b(10),
+            .exportRecipe = b(11),
+            .importRecipe = b(12),
+            .cookbookMenus = b(13)};
 }
 
 } // namespace
@@ -30,19 +50,23 @@ RecipeCommandStates On(std::initializer_list<int> bits)
 TEST(RecipeModes, CommandStatesByMode)
 {
     const Row rows[] = {
-        {"idle", State(RecipeMode::Idle), On({1, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1})},
-        {"create, nothing typed", State(RecipeMode::Create), On({0, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1, 1})},
+        {"idle", State(RecipeMode::Idle), On({1, 1, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1})},
+        {"create, nothing typed", State(RecipeMode::Create), On({0, 1, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 1, 1})},
         {"create in an empty cookbook", State(RecipeMode::Create, false, false, false, false, false),
-         On({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1, 1})},
-        {"create, typed", State(RecipeMode::Create, false, true), On({0, 1, 0, 1, 0, 0, 0, 0, 1, 0, 0, 1, 1})},
-        {"view, list open", State(RecipeMode::View), On({1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1})},
-        {"view, recipe shown", State(RecipeMode::View, true), On({1, 0, 1, 0, 1, 1, 1, 1, 0, 1, 1, 0, 1})},
+         On({0, 0, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 1, 1})},
+        {"create, typed", State(RecipeMode::Create, false, true), On({0, 1, 0, 1, 0, 0, 0, 0, 1, 1, 0, 0, 1, 1})},
+        {"view, list open", State(RecipeMode::View), On({1, 0, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1})},
+        {"view, recipe shown", State(RecipeMode::View, true), On({1, 0, 1, 0, 1, 1, 1, 1, 1, 0, 1, 1, 0, 1})},
         {"view after the calculator", State(RecipeMode::View, true, false, true),
-         On({1, 0, 1, 1, 1, 1, 1, 1, 0, 1, 1, 0, 1})},
-        {"modify", State(RecipeMode::Modify, true), On({1, 0, 0, 0, 1, 1, 1, 1, 0, 0, 0, 0, 1})},
-        {"modify, typed", State(RecipeMode::Modify, true, true), On({1, 0, 0, 1, 1, 1, 1, 1, 1, 1, 0, 0, 1})},
+         On({1, 0, 1, 1, 1, 1, 1, 1, 1, 0, 1, 1, 0, 1})},
+        {"modify", State(RecipeMode::Modify, true), On({1, 0, 0, 0, 1, 1, 1, 1, 1, 0, 0, 0, 0, 1})},
+        {"modify, typed", State(RecipeMode::Modify, true, true), On({1, 0, 0, 1, 1, 1, 1, 1, 1, 1, 1, 0, 0, 1})},
         {"rename panel open", State(RecipeMode::View, true, false, false, true),
-         On({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0})},
+         On({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0})},
+        {"calculator open", State(RecipeMode::View, true, false, true, false, true, true),
+         On({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0})},
+        {"search open", State(RecipeMode::View, true, false, false, false, true, false, true),
+         On({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0})},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -55,6 +79,7 @@ TEST(RecipeModes, CommandStatesByMode)
         EXPECT_EQ(on.rename, row.expected.rename);
         EXPECT_EQ(on.print, row.expected.print);
         EXPECT_EQ(on.calculate, row.expected.calculate);
+        EXPECT_EQ(on.search, row.expected.search);
         EXPECT_EQ(on.spelling, row.expected.spelling);
         EXPECT_EQ(on.copy, row.expected.copy);
         EXPECT_EQ(on.exportRecipe, row.expected.exportRecipe);
@@ -69,4 +94,5 @@ TEST(RecipeModes, TitleStripCaptions)
     EXPECT_STREQ(ModeCaption(RecipeMode::Create), "Create Recipe");
     EXPECT_STREQ(ModeCaption(RecipeMode::View), "View Recipe");
     EXPECT_STREQ(ModeCaption(RecipeMode::Modify), "Modify Recipe");
+    EXPECT_STREQ(CalculatorCaption(), "Calculate Amts.");
 }

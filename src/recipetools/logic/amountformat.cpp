@@ -3,6 +3,7 @@
 #include "common/numbertext.h"
 
 #include <cmath>
+#include <iterator>
 
 AmountParts SplitAmount(double amount)
 {
@@ -15,25 +16,52 @@ AmountParts SplitAmount(double amount)
     return parts;
 }
 
+namespace {
+
+struct FractionLine {
+    float limit;        // compared with the rest as a single
+    bool inclusive;     // "up to" rather than "below"
+    double snapped;
+    const char16_t* text;
+};
+
+// Strict below .3, inclusive from .4 on: exactly .1 is an eighth and exactly
+// .4 a third. The limits are singles, like the rest they meet.
+constexpr FractionLine kFractionLines[] = {
+    {0.1f, false, 0.0, u""},
+    {0.2f, false, 0.125, u"1/8"},
+    {0.3f, false, 0.25, u"1/4"},
+    {0.4f, true, 0.33, u"1/3"},
+    {0.6f, true, 0.5, u"1/2"},
+    {0.7f, true, 0.67, u"2/3"},
+    {0.85f, true, 0.75, u"3/4"},
+};
+// What lies above .85: the next whole number, no fraction text.
+constexpr FractionLine kNextWhole = {1.0f, false, 1.0, u""};
+// A rest that matches no line at all (1 or more, NaN) adds nothing.
+constexpr FractionLine kNoLine = {0.0f, false, 0.0, u""};
+
+const FractionLine& LineFor(float fractionPart)
+{
+    for (const FractionLine& line : kFractionLines) {
+        if (line.inclusive ? fractionPart <= line.limit : fractionPart < line.limit)
+            return line;
+    }
+    if (fractionPart > kFractionLines[std::size(kFractionLines) - 1].limit && fractionPart < kNextWhole.limit)
+        return kNextWhole;
+    return kNoLine;
+}
+
+} // namespace
+
 QString FractionText(float fractionPart)
 {
-    // Strict below .3, inclusive from .4 on: exactly .1 is an eighth and
-    // exactly .4 a third. The constants are singles, like the rest they meet.
-    if (fractionPart < 0.1f)
-        return {};
-    if (fractionPart < 0.2f)
-        return QStringLiteral("1/8");
-    if (fractionPart < 0.3f)
-        return QStringLiteral("1/4");
-    if (fractionPart <= 0.4f)
-        return QStringLiteral("1/3");
-    if (fractionPart <= 0.6f)
-        return QStringLiteral("1/2");
-    if (fractionPart <= 0.7f)
-        return QStringLiteral("2/3");
-    if (fractionPart <= 0.85f)
-        return QStringLiteral("3/4");
-    return {};
+    return QString::fromUtf16(LineFor(fractionPart).text);
+}
+
+double SnappedFraction(float fractionPart)
+{
+    return LineFor(fractionPart).snapped;
 }
 
 QString FormatAmount(QStringView decimalText)
@@ -46,7 +74,7 @@ QString FormatAmount(QStringView decimalText)
     if (!std::isfinite(parts.wholePart) || !std::isfinite(parts.fractionPart))
         return {};
     QString fraction = FractionText(parts.fractionPart);
-    if (parts.fractionPart > 0.85f && parts.fractionPart < 1.0f) {
+    if (SnappedFraction(parts.fractionPart) == 1.0) {
         parts.wholePart += 1.0f;
         fraction.clear();
     }

@@ -14,11 +14,24 @@ struct AmountParts {
 };
 AmountParts SplitAmount(double amount);
 
-// The fraction text for a single-precision rest, by the first true test:
-// below .1 none, below .2 "1/8", below .3 "1/4", up to .4 "1/3", up to .6
-// "1/2", up to .7 "2/3", up to .85 "3/4", above .85 none (and the whole part
-// goes up by one). The first three tests are strict, the others inclusive.
+// The fraction table, read top to bottom, first true test wins:
+//   below .1          S 0      no text
+//   below .2          S .125   "1/8"
+//   below .3          S .25    "1/4"
+//   up to .4          S .33    "1/3"
+//   up to .6          S .5     "1/2"
+//   up to .7          S .67    "2/3"
+//   up to .85         S .75    "3/4"
+//   above .85 (< 1)   S 1      no text, the whole part goes up by one
+// The first three tests are strict, the others inclusive, all against
+// single-precision constants.
+//
+// The fraction text of a rest.
 QString FractionText(float fractionPart);
+// The snapped value S of a rest, as the calculator adds it to the whole
+// part. S is a double so that 2 + .33 reads back as "2.33", not as the
+// binary noise of a single .33.
+double SnappedFraction(float fractionPart);
 
 // "3", "1 1/2", "1/3"; empty for an empty amount. A rest that gives no
 // fraction text still leaves the blank: 3.05 gives "3 ", 2.9 gives "3 ".

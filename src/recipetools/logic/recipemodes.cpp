@@ -3,7 +3,7 @@
 RecipeCommandStates CommandStatesFor(const RecipeScreenState& state)
 {
     RecipeCommandStates on;
-    if (state.panelOpen)
+    if (state.panelOpen || state.calculatorOpen || state.searchOpen)
         return on; // a panel over the screen holds every command until it closes
     const bool editing = state.mode == RecipeMode::Create || state.mode == RecipeMode::Modify;
     const bool shown = state.recipeShown
@@ -18,6 +18,7 @@ RecipeCommandStates CommandStatesFor(const RecipeScreenState& state)
     on.rename = shown;
     on.print = shown;
     on.calculate = shown;
+    on.search = true;
     // Copy and export work on a viewed recipe (copy also once a modified one
     // has changes); import only on a new one.
     on.copy = shown && (state.mode == RecipeMode::View || state.recipeChanged);
@@ -36,4 +37,9 @@ const char* ModeCaption(RecipeMode mode)
     case RecipeMode::Idle: break;
     }
     return "Recipe Files";
+}
+
+const char* CalculatorCaption()
+{
+    return "Calculate Amts.";
 }

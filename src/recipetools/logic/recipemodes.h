@@ -15,6 +15,8 @@ struct RecipeScreenState {
     bool recipeChanged = false;         // RecipeChanged
     bool amountsRecalculated = false;   // AmountsRecalculated is 9
     bool panelOpen = false;             // the rename panel
+    bool calculatorOpen = false;        // the amount calculator
+    bool searchOpen = false;            // a search panel
     bool cookbookHasRecipes = false;    // any slot of the cookbook is used
 };
 
@@ -27,6 +29,7 @@ struct RecipeCommandStates {
     bool rename = false;
     bool print = false;
     bool calculate = false;
+    bool search = false;
     bool spelling = false;
     bool copy = false;
     bool exportRecipe = false;
@@ -40,3 +43,5 @@ RecipeCommandStates CommandStatesFor(const RecipeScreenState& state);
 
 // The caption of the title strip in each mode.
 const char* ModeCaption(RecipeMode mode);
+// The title strip while the amount calculator is open.
+const char* CalculatorCaption();

@@ -4,6 +4,7 @@
 #include "cookbook/logic/cookbookfiles.h"
 #include "cookbook/logic/nameentry.h"
 #include "recipetools/logic/amountformat.h"
+#include "recipetools/screens/calculatorpanel.h"
 #include "recipetools/screens/cookbooktitlespanel.h"
 #include "recipetools/screens/recipefieldspanel.h"
 #include "recipetools/screens/renamepanel.h"
@@ -88,6 +89,9 @@ Form5::Form5(Dialogs& dialogs, QWidget* parent) : ActivityWindow(parent), dialog
     layout->addWidget(fields_, 1);
     layout->addWidget(commands);
     renamePanel_ = new RenamePanel(central);
+    calculator_ = new CalculatorPanel(central);
+    calculator_->hide();
+    buildSearchPanels(central);
     titlesPanel_ = new CookbookTitlesPanel(central);
 
     panelColors_ = new PanelColors(dialogs_, kForm5PanelColor, statusBar_, this);
@@ -96,6 +100,7 @@ Form5::Form5(Dialogs& dialogs, QWidget* parent) : ActivityWindow(parent), dialog
     for (QWidget* panel : fields_->colouredPanels())
         panelColors_->addPanel(panel);
     panelColors_->addPanel(renamePanel_);
+    panelColors_->addPanel(calculator_);
     panelColors_->addPanel(titlesPanel_);
     panelColors_->applyStored();
     connect(findChild<QAction*>(QStringLiteral("mPanelColor")), &QAction::triggered, panelColors_,
@@ -121,6 +126,12 @@ Form5::Form5(Dialogs& dialogs, QWidget* parent) : ActivityWindow(parent), dialog
         informUser(QStringLiteral("Current Recipe Names"),
                    QStringLiteral("This list is used to display existing Recipes Only!"));
     });
+    connect(findChild<QAction*>(QStringLiteral("mCalculate")), &QAction::triggered, this, &Form5::openCalculator);
+    connect(findChild<QAction*>(QStringLiteral("mSearch")), &QAction::triggered, this, &Form5::openSearch);
+    connect(calculator_, &CalculatorPanel::calculateRequested, this, &Form5::calculateAmounts);
+    connect(calculator_, &CalculatorPanel::closeRequested, this, &Form5::closeCalculator);
+    connect(calculator_, &CalculatorPanel::yieldTypeTyped, this,
+            [this](const QString& type) { fields_->yieldTypeList()->setEditText(type); });
     connect(renamePanel_, &RenamePanel::saveRequested, this, &Form5::saveRename);
     connect(renamePanel_, &RenamePanel::cancelRequested, this, &Form5::closeRename);
     connect(titlesPanel_, &CookbookTitlesPanel::closeRequested, titlesPanel_, &QWidget::hide);
@@ -256,10 +267,14 @@ void Form5::loadRecipe(RecordNumber recordNumber, int listIndex)
     findChild<QWidget*>(QStringLiteral("Command1_2"))->setFocus(Qt::OtherFocusReason);
 }
 
-void Form5::showRecipeAt(RecordNumber recordNumber, const QString& entry)
+void Form5::showRecipeAt(RecordNumber recordNumber, const QString& entryText)
 {
     skipSaveQuestion_ = true;
-    const int index = fields_->pickList()->findData(entry);
+    int index = -1;
+    for (int i = 0; i < fields_->pickList()->count() && index < 0; ++i) {
+        if (fields_->pickList()->itemData(i).toString().contains(entryText))
+            index = i;
+    }
     loadRecipe(recordNumber, index);
     skipSaveQuestion_ = false;
 }
@@ -326,6 +341,7 @@ void Form5::deleteRecipe()
         return;
     }
     DeleteRecipe(cookbook_, *type, currentRecordNumber_, pickEntries(), currentListIndex_);
+    calculator_->clearNewYield();
     state_ = RecipeScreenState{};
     clearScreen();
     setMode(RecipeMode::Idle);
@@ -511,10 +527,15 @@ void Form5::applyCommandStates()
     set("mRename", on.rename);
     set("mTitles", on.cookbookMenus);
     cookbookMenu_->setEnabled(on.cookbookMenus);
+    set("mCalculate", on.calculate);
+    set("mSearch", on.search);
+    // No other recipe or type is chosen while the calculator works on this one.
+    fields_->typeList()->setEnabled(!state_.calculatorOpen && !state_.searchOpen);
+    fields_->pickList()->setEnabled(!state_.calculatorOpen && !state_.searchOpen);
     set("mExit", !state_.panelOpen);
     // Tools that come with later screens stay off until they exist.
-    for (const char* later : {"mPrint", "mWorksheet", "mCalculate", "mSearch", "mSpelling", "mCopy", "mExport",
-                              "mImport", "mBackup", "mRestore"})
+    for (const char* later : {"mPrint", "mWorksheet", "mSpelling", "mCopy", "mExport", "mImport", "mBackup",
+                              "mRestore"})
         set(later, false);
 }
 

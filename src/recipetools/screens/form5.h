@@ -7,12 +7,17 @@
 #include "cookbook/logic/cookbooknames.h"
 #include "recipetools/logic/recipelifecycle.h"
 #include "recipetools/logic/recipemodes.h"
+#include "recipetools/logic/recipesearch.h"
 
 #include "shell/screens/activitywindow.h"
 
 #include <array>
 #include <optional>
 
+class CalculatorPanel;
+class IngredientSearchPanel;
+class NameSearchPanel;
+class SearchOptionsPanel;
 class CookbookTitlesPanel;
 class Dialogs;
 class PanelColors;
@@ -31,9 +36,9 @@ public:
     explicit Form5(Dialogs& dialogs, QWidget* parent = nullptr);
 
     // For callers that know a record number (search): shows the recipe of
-    // that slot without the save question and finds its entry in the pick
-    // list to set the list position.
-    void showRecipeAt(RecordNumber recordNumber, const QString& entry);
+    // that slot without the save question; the pick list position is that of
+    // the first entry holding `entryText`.
+    void showRecipeAt(RecordNumber recordNumber, const QString& entryText);
 
     RecipeMode mode() const { return state_.mode; }
     int cookbook() const { return cookbook_; }
@@ -80,6 +85,18 @@ private:
     void clearScreen();
     void exitScreen();
 
+    // The amount calculator (form5calculator.cpp).
+    void openCalculator();
+    void calculateAmounts();
+    void closeCalculator();
+
+    // Search (form5search.cpp).
+    void buildSearchPanels(QWidget* area);
+    void openSearch();
+    void openSearchPanel(QWidget* panel);
+    void closeSearch();
+    void viewFoundRecipe(const std::optional<SearchHit>& hit);
+
     // Fields.
     bool fieldEntryAllowed(QWidget* field, Qt::FocusReason reason);
     void nameEnterPressed();
@@ -99,6 +116,10 @@ private:
     Dialogs& dialogs_;
     RecipeFieldsPanel* fields_ = nullptr;
     RenamePanel* renamePanel_ = nullptr;
+    CalculatorPanel* calculator_ = nullptr;
+    SearchOptionsPanel* searchOptions_ = nullptr;
+    NameSearchPanel* nameSearch_ = nullptr;
+    IngredientSearchPanel* ingredientSearch_ = nullptr;
     CookbookTitlesPanel* titlesPanel_ = nullptr;
     ScreenStatusBar* statusBar_ = nullptr;
     PanelColors* panelColors_ = nullptr;

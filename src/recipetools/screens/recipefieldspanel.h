@@ -32,6 +32,7 @@ public:
     QLineEdit* unitBox(int row) const { return text4_[row]; }
     QLineEdit* ingredientBox(int row) const { return text5_[row]; }
     QPlainTextEdit* directionsBox() const { return text2_; }
+    QLineEdit* yieldAmountBox() const { return text6_; }
     QComboBox* yieldTypeList() const { return combo4_; }
     QFrame* currentNamesPanel() const { return namesPanel_; }
     // Shows "Current Recipe Names" right under the name box.

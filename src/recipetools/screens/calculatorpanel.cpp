@@ -1,0 +1,151 @@
+#include "recipetools/screens/calculatorpanel.h"
+
+#include "recipetools/logic/amountcalculator.h"
+
+#include <QEvent>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+
+const char kCaption[] = "Recipe Amount Calculator";
+const char kNote[] =
+    "Note: Unless you save the Recipe after making these changes the Amount and Yield Information will "
+    "remain the same as originally displayed, the next time you view this Recipe.";
+
+} // namespace
+
+CalculatorPanel::CalculatorPanel(QWidget* parent) : QFrame(parent)
+{
+    setObjectName(QString::fromLatin1(kCaption));
+    setFrameStyle(QFrame::Panel | QFrame::Raised);
+    setLineWidth(3);
+    setAutoFillBackground(true);
+
+    auto* title = new QLabel(QString::fromLatin1(kCaption), this);
+    title->setObjectName(QStringLiteral("CalculatorCaption"));
+    QFont bold = title->font();
+    bold.setBold(true);
+    bold.setPointSize(bold.pointSize() + 2);
+    title->setFont(bold);
+    auto* note = new QLabel(QString::fromLatin1(kNote), this);
+    note->setObjectName(QStringLiteral("CalculatorNote"));
+    note->setWordWrap(true);
+    note->setMinimumWidth(360);
+
+    label20_ = new QLabel(this);
+    label20_->setObjectName(QStringLiteral("Label20"));
+    label21_ = new QLabel(this);
+    label21_->setObjectName(QStringLiteral("Label21"));
+    text9_ = new QLineEdit(this);
+    text9_->setObjectName(QStringLiteral("Text9"));
+    // The new yield is written into the recipe's yield field as typed.
+    text9_->setMaxLength(kYieldLength);
+    text9_->setMaximumWidth(80);
+    text9_->installEventFilter(this);
+    label24_ = new QLabel(this);
+    label24_->setObjectName(QStringLiteral("Label24"));
+
+    command9_ = new QPushButton(QStringLiteral("Calculate New &Amounts"), this);
+    command9_->setObjectName(QStringLiteral("Command9"));
+    command10_ = new QPushButton(QStringLiteral("&Close"), this);
+    command10_->setObjectName(QStringLiteral("Command10"));
+    connect(command9_, &QPushButton::clicked, this, &CalculatorPanel::calculateRequested);
+    connect(command10_, &QPushButton::clicked, this, &CalculatorPanel::closeRequested);
+
+    auto* current = new QHBoxLayout;
+    current->addWidget(label20_);
+    current->addWidget(label21_);
+    current->addStretch();
+    auto* changeTo = new QHBoxLayout;
+    changeTo->addWidget(text9_);
+    changeTo->addWidget(label24_);
+    changeTo->addStretch();
+    auto* form = new QFormLayout;
+    form->addRow(QStringLiteral("Current Yield Is:"), current);
+    form->addRow(QStringLiteral("Change Yield To:"), changeTo);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(command9_);
+    buttons->addWidget(command10_);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(title);
+    layout->addWidget(note);
+    layout->addLayout(form);
+    layout->addLayout(buttons);
+    hide();
+}
+
+void CalculatorPanel::open(const QString& currentYield, const QString& yieldType)
+{
+    label20_->setText(currentYield);
+    label21_->setText(yieldType);
+    label24_->setText(label21_->text());
+    text9_->clear();
+    adjustSize();
+    show();
+    raise();
+    text9_->setFocus(Qt::OtherFocusReason);
+}
+
+QString CalculatorPanel::newYield() const
+{
+    return text9_->text();
+}
+
+QString CalculatorPanel::currentYield() const
+{
+    return label20_->text();
+}
+
+void CalculatorPanel::setCurrentYield(const QString& yield)
+{
+    label20_->setText(yield);
+}
+
+void CalculatorPanel::clearNewYield()
+{
+    text9_->clear();
+}
+
+QString CalculatorPanel::newYieldType() const
+{
+    return label24_->text();
+}
+
+bool CalculatorPanel::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == text9_) {
+        if (event->type() == QEvent::KeyPress) {
+            const auto* key = static_cast<QKeyEvent*>(event);
+            if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
+                emit calculateRequested();
+                return true;
+            }
+        } else if (event->type() == QEvent::KeyRelease) {
+            const auto* key = static_cast<QKeyEvent*>(event);
+            // A held key repeats its press but is released once.
+            if (!key->isAutoRepeat() && key->key() != Qt::Key_Return && key->key() != Qt::Key_Enter
+                && key->key() != Qt::Key_Backspace)
+                newYieldKeyReleased();
+        }
+    }
+    return QFrame::eventFilter(watched, event);
+}
+
+void CalculatorPanel::newYieldKeyReleased()
+{
+    const QString filtered = FilterYieldBox(text9_->text());
+    if (filtered != text9_->text()) {
+        text9_->setText(filtered);
+        text9_->end(false);
+    }
+    const QString newType = YieldTypeForTyped(filtered, label24_->text());
+    label24_->setText(newType);
+    emit yieldTypeTyped(newType);
+}

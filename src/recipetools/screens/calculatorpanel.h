@@ -1,0 +1,54 @@
+#pragma once
+// The panel "Recipe Amount Calculator": the current yield, a box for the new
+// one, and the commands to calculate and to close. The panel keeps its own
+// labels in step with what is typed; the arithmetic is CalculateNewAmounts,
+// and the recipe screen runs it and shows its messages.
+#include <QFrame>
+
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+class CalculatorPanel final : public QFrame {
+    Q_OBJECT
+public:
+    static constexpr int kYieldLength = 5;   // the yield field of the record
+
+    explicit CalculatorPanel(QWidget* parent = nullptr);
+
+    // Shows the recipe's yield number and type as the current yield, offers
+    // the same type for the new one, empties the box and puts the focus in it.
+    void open(const QString& currentYield, const QString& yieldType);
+
+    QString newYield() const;
+    QString currentYield() const;
+    // After a calculation the new yield becomes the current one.
+    void setCurrentYield(const QString& yield);
+    void clearNewYield();
+    QString newYieldType() const;
+
+    QLineEdit* newYieldBox() const { return text9_; }
+    QPushButton* calculateButton() const { return command9_; }
+    QPushButton* closeButton() const { return command10_; }
+
+signals:
+    // "Calculate New &Amounts", or Enter in the new yield box.
+    void calculateRequested();
+    void closeRequested();
+    // A key was released in the new yield box: the type label now reads
+    // `newType`, and the recipe's yield type should follow it.
+    void yieldTypeTyped(const QString& newType);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void newYieldKeyReleased();
+
+    QLabel* label20_ = nullptr;   // current yield number
+    QLabel* label21_ = nullptr;   // current yield type
+    QLineEdit* text9_ = nullptr;  // new yield number
+    QLabel* label24_ = nullptr;   // new yield type
+    QPushButton* command9_ = nullptr;
+    QPushButton* command10_ = nullptr;
+};
