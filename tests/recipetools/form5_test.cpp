@@ -1002,3 +1002,15 @@ TEST_F(Form5Test, IngredientSearchFindsTheRecipe)
     form->findChild<QPushButton*>("cmdCloseIngredientSearch")->click();
     EXPECT_TRUE(act(*form, "mCreate")->isEnabled());
 }
+
+TEST_F(Form5CalculatorTest, ClosingThePanelLeavesTheKeyboardOnACommandNotAField)
+{
+    auto form = open();
+    ShowActive(*form);
+    viewFourServings(*form);
+    act(*form, "mCalculate")->trigger();
+    newYield(*form)->setFocus(Qt::OtherFocusReason);
+    form->findChild<QPushButton*>("Command10")->click();
+    EXPECT_TRUE(dialogs.messages().isEmpty()) << "no field was entered";
+    EXPECT_TRUE(form->findChild<QPushButton*>("Command1_5")->hasFocus());
+}

@@ -134,13 +134,16 @@ Form5::Form5(Dialogs& dialogs, QWidget* parent) : ActivityWindow(parent), dialog
             [this](const QString& type) { fields_->yieldTypeList()->setEditText(type); });
     connect(renamePanel_, &RenamePanel::saveRequested, this, &Form5::saveRename);
     connect(renamePanel_, &RenamePanel::cancelRequested, this, &Form5::closeRename);
-    connect(titlesPanel_, &CookbookTitlesPanel::closeRequested, titlesPanel_, &QWidget::hide);
+    connect(titlesPanel_, &CookbookTitlesPanel::closeRequested, this, [this] {
+        focusCommandButton(kCreateButton);
+        titlesPanel_->hide();
+    });
     connect(titlesPanel_, &CookbookTitlesPanel::saveRequested, this, &Form5::saveTitles);
 
     loadCookbook();
     setMode(RecipeMode::Idle);
     statusBar_->setActivity(windowTitle());
-    findChild<QWidget*>(QStringLiteral("Command1_0"))->setFocus(Qt::OtherFocusReason);
+    focusCommandButton(kCreateButton);
 }
 
 // ---- The life of a recipe ---------------------------------------------------
@@ -264,7 +267,7 @@ void Form5::loadRecipe(RecordNumber recordNumber, int listIndex)
     fields_->pickList()->setCurrentIndex(listIndex);
     state_.recipeShown = true;
     setMode(RecipeMode::View);
-    findChild<QWidget*>(QStringLiteral("Command1_2"))->setFocus(Qt::OtherFocusReason);
+    focusCommandButton(kModifyButton);
 }
 
 void Form5::showRecipeAt(RecordNumber recordNumber, const QString& entryText)
@@ -388,10 +391,11 @@ void Form5::saveRename(const QString& newName)
 void Form5::closeRename()
 {
     renamePanel_->newNameBox()->clear();
-    renamePanel_->hide();
     fields_->setEnabled(true);
     state_.panelOpen = false;
     setMode(state_.mode);
+    focusCommandButton(kCreateButton);
+    renamePanel_->hide();
 }
 
 void Form5::clearScreen()
@@ -537,6 +541,13 @@ void Form5::applyCommandStates()
     for (const char* later : {"mPrint", "mWorksheet", "mSpelling", "mCopy", "mExport", "mImport", "mBackup",
                               "mRestore"})
         set(later, false);
+}
+
+// A panel that closes must not leave the keyboard to whatever field comes
+// next: that would count as the user entering it.
+void Form5::focusCommandButton(int index)
+{
+    findChild<QWidget*>(QStringLiteral("Command1_%1").arg(index))->setFocus(Qt::OtherFocusReason);
 }
 
 std::optional<RecipeType> Form5::chosenType() const

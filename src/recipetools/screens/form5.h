@@ -32,6 +32,11 @@ class Form5 final : public ActivityWindow {
     Q_OBJECT
 public:
     static constexpr int kHelpTopic = 1010;
+    // The screen's buttons, Command1(0) to Command1(9), by index.
+    enum CommandButtonIndex {
+        kCreateButton = 0, kViewButton, kModifyButton, kSaveButton, kPrintButton,
+        kCalculateButton, kDeleteButton, kSearchButton, kSpellingButton, kExitButton,
+    };
 
     explicit Form5(Dialogs& dialogs, QWidget* parent = nullptr);
 
@@ -105,6 +110,7 @@ private:
     void informUser(const QString& title, const QString& text);
 
     void setMode(RecipeMode mode);
+    void focusCommandButton(int index);
     void setTitleStrip(const QString& caption, bool alarm = false);
     void applyCommandStates();
     std::optional<RecipeType> chosenType() const;

@@ -65,9 +65,11 @@ void Form5::calculateAmounts()
 
 void Form5::closeCalculator()
 {
-    calculator_->hide();
     state_.calculatorOpen = false;
     setMode(state_.mode);
     if (state_.mode == RecipeMode::Modify)
         fields_->amountBox(0)->setFocus(Qt::OtherFocusReason);
+    else
+        focusCommandButton(kCalculateButton);
+    calculator_->hide();
 }

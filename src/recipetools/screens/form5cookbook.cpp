@@ -39,7 +39,7 @@ void Form5::selectCookbook(int cookbook)
     fields_->showCurrentNames();
     statusBar_->setActivity(windowTitle());
     QApplication::processEvents();
-    findChild<QWidget*>(QStringLiteral("Command1_1"))->setFocus(Qt::OtherFocusReason);
+    focusCommandButton(kViewButton);
 }
 
 void Form5::openTitles()
@@ -52,6 +52,7 @@ void Form5::openTitles()
 void Form5::saveTitles(const QStringList& titles)
 {
     WriteCookbookTitles(titles);
+    focusCommandButton(kCreateButton);
     titlesPanel_->hide();
     loadCookbook();
     applyCommandStates();

@@ -83,11 +83,12 @@ void Form5::openSearchPanel(QWidget* panel)
 
 void Form5::closeSearch()
 {
+    state_.searchOpen = false;
+    applyCommandStates();
+    focusCommandButton(kSearchButton);
     searchOptions_->hide();
     nameSearch_->hide();
     ingredientSearch_->hide();
-    state_.searchOpen = false;
-    applyCommandStates();
 }
 
 // "&View Selected Recipe": the type of the row is viewed and the recipe whose
