@@ -1014,3 +1014,12 @@ TEST_F(Form5CalculatorTest, ClosingThePanelLeavesTheKeyboardOnACommandNotAField)
     EXPECT_TRUE(dialogs.messages().isEmpty()) << "no field was entered";
     EXPECT_TRUE(form->findChild<QPushButton*>("Command1_5")->hasFocus());
 }
+
+TEST_F(Form5Test, AltEOpensTheSearchOptions)
+{
+    auto form = open();
+    ShowActive(*form);
+    QTest::keyClick(form.get(), Qt::Key_E, Qt::AltModifier);
+    QTest::qWait(300); // a mnemonic clicks its button as a mouse click would, after a moment
+    EXPECT_FALSE(form->findChild<QFrame*>("Search Options")->isHidden());
+}

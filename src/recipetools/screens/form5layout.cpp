@@ -59,17 +59,15 @@ void Form5::buildMenus()
     addCommand(recipe, "mSearch", QStringLiteral("Searc&h"));
     addCommand(recipe, "mSpelling", QStringLiteral("S&pelling Check"));
     recipe->addSeparator();
+    addCommand(recipe, "mCopy", QStringLiteral("Cop&y"));
+    addCommand(recipe, "mExport", QStringLiteral("&Export Recipe"));
+    addCommand(recipe, "mImport", QStringLiteral("&Import Recipe"));
+    recipe->addSeparator();
     addCommand(recipe, "mPrint", QStringLiteral("&Print Options"));
     addCommand(recipe, "mWorksheet", QStringLiteral("Print &Worksheet"));
     recipe->addSeparator();
+    // No menu title may take a letter of the screen's buttons (Alt+E is "S&earch").
     connect(addCommand(recipe, "mExit", QStringLiteral("E&xit")), &QAction::triggered, this, &Form5::exitScreen);
-
-    QMenu* edit = menuBar()->addMenu(QStringLiteral("&Edit"));
-    edit->setObjectName(QStringLiteral("mEdit"));
-    addCommand(edit, "mCopy", QStringLiteral("Cop&y"));
-    edit->addSeparator();
-    addCommand(edit, "mExport", QStringLiteral("&Export Recipe"));
-    addCommand(edit, "mImport", QStringLiteral("&Import Recipe"));
 
     QMenu* options = menuBar()->addMenu(QStringLiteral("&Options"));
     options->setObjectName(QStringLiteral("mOptions"));
