@@ -1023,3 +1023,15 @@ TEST_F(Form5Test, AltEOpensTheSearchOptions)
     QTest::qWait(300); // a mnemonic clicks its button as a mouse click would, after a moment
     EXPECT_FALSE(form->findChild<QFrame*>("Search Options")->isHidden());
 }
+
+TEST_F(Form5Test, AltRInTheSearchOptionsOpensTheNameSearch)
+{
+    auto form = open();
+    ShowActive(*form);
+    act(*form, "mSearch")->trigger();
+    QTest::keyClick(form.get(), Qt::Key_R, Qt::AltModifier);
+    QTest::qWait(300);
+    EXPECT_FALSE(form->findChild<QFrame*>("Search Files by Recipe")->isHidden());
+    EXPECT_TRUE(form->findChild<QFrame*>("Search Options")->isHidden());
+    EXPECT_TRUE(form->findChild<QLineEdit*>("Text12")->hasFocus());
+}

@@ -37,9 +37,11 @@ QAction* Form5::addCommand(QMenu* menu, const char* objectName, const QString& c
     return action;
 }
 
+// No menu title takes a letter that a button of the screen or of its panels
+// uses (Alt+E is "S&earch", Alt+R "Search by &Recipe").
 void Form5::buildMenus()
 {
-    QMenu* recipe = menuBar()->addMenu(QStringLiteral("&Recipe"));
+    QMenu* recipe = menuBar()->addMenu(QStringLiteral("&File"));
     recipe->setObjectName(QStringLiteral("mRecipe"));
     connect(addCommand(recipe, "mCreate", QStringLiteral("&Create Recipe")), &QAction::triggered, this,
             &Form5::createRecipe);
@@ -66,7 +68,6 @@ void Form5::buildMenus()
     addCommand(recipe, "mPrint", QStringLiteral("&Print Options"));
     addCommand(recipe, "mWorksheet", QStringLiteral("Print &Worksheet"));
     recipe->addSeparator();
-    // No menu title may take a letter of the screen's buttons (Alt+E is "S&earch").
     connect(addCommand(recipe, "mExit", QStringLiteral("E&xit")), &QAction::triggered, this, &Form5::exitScreen);
 
     QMenu* options = menuBar()->addMenu(QStringLiteral("&Options"));

@@ -73,12 +73,12 @@ void Form5::openSearch()
 
 void Form5::openSearchPanel(QWidget* panel)
 {
-    searchOptions_->hide();
     panel->setGeometry(centralWidget()->rect().adjusted(24, 24, -24, -24));
     if (panel == nameSearch_)
         nameSearch_->open();
     else
         ingredientSearch_->open();
+    searchOptions_->hide(); // after the panel took the keyboard
 }
 
 void Form5::closeSearch()
