@@ -73,11 +73,11 @@ void Form5::openSearch()
 
 void Form5::openSearchPanel(QWidget* panel)
 {
-    panel->setGeometry(centralWidget()->rect().adjusted(24, 24, -24, -24));
     if (panel == nameSearch_)
         nameSearch_->open();
     else
         ingredientSearch_->open();
+    panel->setGeometry(centralWidget()->rect().adjusted(24, 24, -24, -24));
     searchOptions_->hide(); // after the panel took the keyboard
 }
 
