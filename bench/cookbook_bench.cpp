@@ -8,6 +8,8 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include "bench_main.h"
+
 #include <benchmark/benchmark.h>
 
 namespace {
@@ -121,12 +123,5 @@ BENCHMARK(BM_RebuildNameFile)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char** argv)
 {
-    // RebuildNameFile lets pending events run; give it an application to run them.
-    QCoreApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    return RunBenchmarks<QCoreApplication>(argc, argv);
 }

@@ -12,6 +12,8 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include "bench_main.h"
+
 #include <benchmark/benchmark.h>
 
 namespace {
@@ -180,12 +182,5 @@ BENCHMARK(BM_FormatAmountTwentyRows)->Unit(benchmark::kMicrosecond);
 
 int main(int argc, char** argv)
 {
-    // The name file rebuild and the deletion let pending events run.
-    QCoreApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    return RunBenchmarks<QCoreApplication>(argc, argv);
 }

@@ -11,6 +11,8 @@
 #include <QApplication>
 #include <QTemporaryDir>
 #include <QTest>
+#include "bench_main.h"
+
 #include <benchmark/benchmark.h>
 
 namespace {
@@ -53,9 +55,5 @@ BENCHMARK(BM_LaterRunToMainWindow)->Unit(benchmark::kMillisecond);
 int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    return RunBenchmarks<QApplication>(argc, argv);
 }
