@@ -1,6 +1,7 @@
 #include "recipetools/screens/calculatorpanel.h"
 
 #include "recipetools/logic/amountcalculator.h"
+#include "recipetools/screens/overlaypanel.h"
 
 #include <QEvent>
 #include <QFormLayout>
@@ -23,16 +24,9 @@ const char kNote[] =
 CalculatorPanel::CalculatorPanel(QWidget* parent) : QFrame(parent)
 {
     setObjectName(QString::fromLatin1(kCaption));
-    setFrameStyle(QFrame::Panel | QFrame::Raised);
-    setLineWidth(3);
-    setAutoFillBackground(true);
 
-    auto* title = new QLabel(QString::fromLatin1(kCaption), this);
+    auto* title = MakeOverlayPanel(this, QString::fromLatin1(kCaption));
     title->setObjectName(QStringLiteral("CalculatorCaption"));
-    QFont bold = title->font();
-    bold.setBold(true);
-    bold.setPointSize(bold.pointSize() + 2);
-    title->setFont(bold);
     auto* note = new QLabel(QString::fromLatin1(kNote), this);
     note->setObjectName(QStringLiteral("CalculatorNote"));
     note->setWordWrap(true);
@@ -87,9 +81,7 @@ void CalculatorPanel::open(const QString& currentYield, const QString& yieldType
     label21_->setText(yieldType);
     label24_->setText(label21_->text());
     text9_->clear();
-    adjustSize();
-    show();
-    raise();
+    RaiseOverlayPanel(this);
     text9_->setFocus(Qt::OtherFocusReason);
 }
 

@@ -2,6 +2,7 @@
 
 #include "cookbook/logic/cookbooknames.h"
 #include "cookbook/logic/cookbookselection.h"
+#include "recipetools/screens/overlaypanel.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -13,15 +14,8 @@
 CookbookTitlesPanel::CookbookTitlesPanel(QWidget* parent) : QFrame(parent)
 {
     setObjectName(QStringLiteral("Cookbook Titles"));
-    setFrameStyle(QFrame::Panel | QFrame::Raised);
-    setLineWidth(3);
-    setAutoFillBackground(true);
 
-    auto* title = new QLabel(QStringLiteral("Cookbook Titles"), this);
-    QFont bold = title->font();
-    bold.setBold(true);
-    bold.setPointSize(bold.pointSize() + 2);
-    title->setFont(bold);
+    auto* title = MakeOverlayPanel(this, QStringLiteral("Cookbook Titles"));
     auto* form = new QFormLayout;
     for (int cookbook = 1; cookbook <= kCookbookCount; ++cookbook) {
         auto* box = new QLineEdit(this);
@@ -52,9 +46,7 @@ void CookbookTitlesPanel::open(const QStringList& titles)
 {
     for (int i = 0; i < boxes_.size(); ++i)
         boxes_[i]->setText(titles.value(i));
-    adjustSize();
-    show();
-    raise();
+    RaiseOverlayPanel(this);
     boxes_.first()->setFocus(Qt::OtherFocusReason);
 }
 

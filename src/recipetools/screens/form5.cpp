@@ -11,10 +11,10 @@
 #include "shell/logic/processvalues.h"
 #include "shell/screens/helpwindow.h"
 #include "shell/screens/panelcolors.h"
+#include "shell/screens/screenbusy.h"
 #include "shell/screens/screenstatusbar.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QContextMenuEvent>
@@ -375,13 +375,14 @@ void Form5::saveRename(const QString& newName)
         renamePanel_->newNameBox()->setFocus(Qt::OtherFocusReason);
         return;
     }
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    const QStringList renamed =
-        RenameRecipe(cookbook_, *type, currentRecordNumber_, pickEntries(), currentListIndex_, newName);
-    clearScreen();
-    setPickEntries(renamed);
-    setCurrentNames(renamed);
-    QApplication::restoreOverrideCursor();
+    {
+        const ScreenBusy busy;
+        const QStringList renamed =
+            RenameRecipe(cookbook_, *type, currentRecordNumber_, pickEntries(), currentListIndex_, newName);
+        clearScreen();
+        setPickEntries(renamed);
+        setCurrentNames(renamed);
+    }
     closeRename();
     setPickEntries({});
     state_ = RecipeScreenState{};

@@ -1,6 +1,7 @@
 #include "recipetools/screens/ingredientsearchpanel.h"
 
 #include "cookbook/logic/cookbooknames.h"
+#include "recipetools/screens/overlaypanel.h"
 #include "recipetools/screens/searchgrid.h"
 #include "shell/screens/gridcolors.h"
 #include "shell/screens/screenbusy.h"
@@ -19,16 +20,9 @@
 IngredientSearchPanel::IngredientSearchPanel(QWidget* parent) : QFrame(parent)
 {
     setObjectName(QStringLiteral("Search Recipes by Ingredient"));
-    setFrameStyle(QFrame::Panel | QFrame::Raised);
-    setLineWidth(3);
-    setAutoFillBackground(true);
 
-    auto* title = new QLabel(QStringLiteral("Search Recipes by Ingredient"), this);
+    auto* title = MakeOverlayPanel(this, QStringLiteral("Search Recipes by Ingredient"));
     title->setObjectName(QStringLiteral("lblSearchByIngredient"));
-    QFont bold = title->font();
-    bold.setBold(true);
-    bold.setPointSize(bold.pointSize() + 2);
-    title->setFont(bold);
     title->setAlignment(Qt::AlignCenter);
 
     auto* prompt = new QLabel(QStringLiteral("Enter Search Ingredient(s) -"), this);
@@ -124,9 +118,7 @@ IngredientSearchPanel::IngredientSearchPanel(QWidget* parent) : QFrame(parent)
 
 void IngredientSearchPanel::open()
 {
-    adjustSize();
-    show();
-    raise();
+    RaiseOverlayPanel(this);
     boxes_[0]->setFocus(Qt::OtherFocusReason);
 }
 

@@ -1,5 +1,6 @@
 #include "recipetools/screens/namesearchpanel.h"
 
+#include "recipetools/screens/overlaypanel.h"
 #include "recipetools/screens/searchgrid.h"
 #include "shell/screens/gridcolors.h"
 #include "shell/screens/screenbusy.h"
@@ -15,16 +16,9 @@
 NameSearchPanel::NameSearchPanel(QWidget* parent) : QFrame(parent)
 {
     setObjectName(QStringLiteral("Search Files by Recipe"));
-    setFrameStyle(QFrame::Panel | QFrame::Raised);
-    setLineWidth(3);
-    setAutoFillBackground(true);
 
-    auto* title = new QLabel(QStringLiteral("Search Files by Recipe"), this);
+    auto* title = MakeOverlayPanel(this, QStringLiteral("Search Files by Recipe"));
     title->setObjectName(QStringLiteral("lblSearchByRecipe"));
-    QFont bold = title->font();
-    bold.setBold(true);
-    bold.setPointSize(bold.pointSize() + 2);
-    title->setFont(bold);
     title->setAlignment(Qt::AlignCenter);
 
     auto* prompt = new QLabel(QStringLiteral("Enter Search Word(s):"), this);
@@ -79,9 +73,7 @@ NameSearchPanel::NameSearchPanel(QWidget* parent) : QFrame(parent)
 
 void NameSearchPanel::open()
 {
-    adjustSize();
-    show();
-    raise();
+    RaiseOverlayPanel(this);
     searchBox_->setFocus(Qt::OtherFocusReason);
 }
 

@@ -1,6 +1,7 @@
 #include "recipetools/screens/renamepanel.h"
 
 #include "recipetools/logic/recipelifecycle.h"
+#include "recipetools/screens/overlaypanel.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -12,15 +13,8 @@
 RenamePanel::RenamePanel(QWidget* parent) : QFrame(parent)
 {
     setObjectName(QStringLiteral("Recipe Name Change"));
-    setFrameStyle(QFrame::Panel | QFrame::Raised);
-    setLineWidth(3);
-    setAutoFillBackground(true);
 
-    auto* title = new QLabel(QStringLiteral("Recipe Name Change"), this);
-    QFont bold = title->font();
-    bold.setBold(true);
-    bold.setPointSize(bold.pointSize() + 2);
-    title->setFont(bold);
+    auto* title = MakeOverlayPanel(this, QStringLiteral("Recipe Name Change"));
     current_ = new QLabel(this);
     current_->setObjectName(QStringLiteral("Label27"));
     current_->setMinimumWidth(320);
@@ -59,9 +53,7 @@ void RenamePanel::open(const QString& currentName)
 {
     current_->setText(currentName.left(kRecipeNameLength));
     newName_->clear();
-    adjustSize();
-    show();
-    raise();
+    RaiseOverlayPanel(this);
     newName_->setFocus(Qt::OtherFocusReason);
 }
 

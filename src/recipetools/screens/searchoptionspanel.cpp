@@ -1,5 +1,7 @@
 #include "recipetools/screens/searchoptionspanel.h"
 
+#include "recipetools/screens/overlaypanel.h"
+
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -7,16 +9,9 @@
 SearchOptionsPanel::SearchOptionsPanel(QWidget* parent) : QFrame(parent)
 {
     setObjectName(QStringLiteral("Search Options"));
-    setFrameStyle(QFrame::Panel | QFrame::Raised);
-    setLineWidth(3);
-    setAutoFillBackground(true);
 
-    auto* title = new QLabel(QStringLiteral("Search Options"), this);
+    auto* title = MakeOverlayPanel(this, QStringLiteral("Search Options"));
     title->setObjectName(QStringLiteral("lblSearchOptions"));
-    QFont bold = title->font();
-    bold.setBold(true);
-    bold.setPointSize(bold.pointSize() + 2);
-    title->setFont(bold);
     title->setAlignment(Qt::AlignCenter);
 
     auto* byRecipe = new QPushButton(QStringLiteral("Search by &Recipe"), this);
@@ -39,9 +34,7 @@ SearchOptionsPanel::SearchOptionsPanel(QWidget* parent) : QFrame(parent)
 
 void SearchOptionsPanel::open()
 {
-    adjustSize();
-    show();
-    raise();
+    RaiseOverlayPanel(this);
     if (auto* first = findChild<QPushButton*>(QStringLiteral("cmdSearchByRecipe")))
         first->setFocus(Qt::OtherFocusReason);
 }

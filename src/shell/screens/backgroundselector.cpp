@@ -6,8 +6,8 @@
 #include "common/widgets/qtcolors.h"
 #include "common/widgets/twips.h"
 #include "shell/screens/panelcolors.h"
+#include "shell/screens/screenbusy.h"
 
-#include <QApplication>
 #include <QImageReader>
 #include <QLabel>
 #include <QMouseEvent>
@@ -138,7 +138,7 @@ void BackgroundSelector::toggle(const Background& current)
 
 void BackgroundSelector::open()
 {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
+    const ScreenBusy busy;
     loadThumbnails();
     choice_.clear();
     useAbove_->setEnabled(false);
@@ -150,7 +150,6 @@ void BackgroundSelector::open()
     centre();
     raise();
     show();
-    QApplication::restoreOverrideCursor();
 }
 
 // Every way out of the panel ends here. A picture clicked but not kept

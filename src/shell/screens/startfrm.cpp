@@ -13,6 +13,7 @@
 #include "shell/screens/about1.h"
 #include "shell/screens/backgroundselector.h"
 #include "shell/screens/helpwindow.h"
+#include "shell/screens/screenbusy.h"
 #include "shell/screens/screenmetrics.h"
 #include "shell/screens/screenstatusbar.h"
 #include "shell/screens/splash1.h"
@@ -235,7 +236,7 @@ void Startfrm::runStart()
     ProcessValues& process = Process();
     process.DateFormatMode = DateFormatModeFor(DateLocale());
     EnterProgramFolder();
-    QApplication::setOverrideCursor(Qt::WaitCursor);
+    const ScreenBusy busy;
 
     const StoredWindow stored = ReadStoredWindow();
     process.WindowedMode = stored.windowed ? kWindowedMode : kFullScreenMode;
@@ -268,7 +269,6 @@ void Startfrm::runStart()
 
     updateDisplayTicks();
     centreCommandPanel();
-    QApplication::restoreOverrideCursor();
     starting_ = false;
 }
 
