@@ -1,6 +1,8 @@
 // Brindlepot: a kitchen program for the family.
 #include "common/programfolder.h"
 #include "common/widgets/qtdialogs.h"
+#include "guides/screens/convform.h"
+#include "guides/screens/foodg.h"
 #include "recipetools/screens/form5.h"
 #include "shell/logic/deliveredfiles.h"
 #include "shell/screens/screenmetrics.h"
@@ -19,6 +21,8 @@ int main(int argc, char** argv)
     SystemScreenMetrics screen;
     Startfrm startfrm(dialogs, screen);
     startfrm.registerActivity("mRecipeFiles", [&dialogs] { return new Form5(dialogs); });
+    startfrm.registerActivity("mFoodGuide", [&dialogs] { return new Foodg(dialogs); });
+    startfrm.registerActivity("mMeasGuide", [&dialogs] { return new Convform(dialogs); });
     QObject::connect(&startfrm, &Startfrm::exitConfirmed, &app, [] { QApplication::exit(0); });
     startfrm.show();
     return app.exec();

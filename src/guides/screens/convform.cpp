@@ -1,0 +1,214 @@
+#include "guides/screens/convform.h"
+
+#include "common/dialogs.h"
+#include "shell/logic/gridcolors.h"
+#include "shell/screens/gridcolors.h"
+#include "shell/screens/helpwindow.h"
+#include "shell/screens/panelcolors.h"
+#include "shell/screens/screenstatusbar.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QBoxLayout>
+#include <QButtonGroup>
+#include <QCloseEvent>
+#include <QContextMenuEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QTableWidget>
+
+Convform::Convform(Dialogs& dialogs, QWidget* parent) : ActivityWindow(parent), dialogs_(dialogs)
+{
+    setObjectName(QStringLiteral("Convform"));
+    setWindowTitle(QStringLiteral("Food Measurement Guide"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    statusBar_ = new ScreenStatusBar(this);
+    setStatusBar(statusBar_);
+    panelColors_ = new PanelColors(dialogs_, kConvformPanelColor, statusBar_, this);
+    buildMenus();
+    buildToolbars();
+
+    auto* central = new QWidget(this);
+    central->setObjectName(QStringLiteral("ConvformArea"));
+    setCentralWidget(central);
+    QFrame* entryPanel = buildEntryPanel(central);
+    QWidget* optionFrames = buildOptionFrames(central);
+    QFrame* commandPanel = buildCommandPanel(central);
+    auto* layout = new QVBoxLayout(central);
+    layout->addWidget(entryPanel);
+    layout->addWidget(optionFrames, 1);
+    layout->addWidget(commandPanel);
+
+    for (QWidget* panel : {static_cast<QWidget*>(entryPanel), static_cast<QWidget*>(gridPanel_),
+                           static_cast<QWidget*>(commandPanel)})
+        panelColors_->addPanel(panel);
+    panelColors_->applyStored();
+    ApplyGridColors(grid_, ReadSharedGridColors());
+    connect(findChild<QAction*>(QStringLiteral("mPanelColor")), &QAction::triggered, panelColors_,
+            &PanelColors::choosePanelColor);
+    connect(findChild<QAction*>(QStringLiteral("mHelp")), &QAction::triggered, this,
+            [] { HelpWindow::showTopic(kHelpTopic); });
+
+    setMultipleEntry(false);
+    statusBar_->setActivity(windowTitle());
+}
+
+// ---- Converting -------------------------------------------------------------
+
+void Convform::chooseOption(int index)
+{
+    const ConversionOption* option = FindConversionOption(index);
+    if (!option)
+        return;
+    chosenOption_ = index;
+    if (QAbstractButton* button = options_->button(index); button && !button->isChecked())
+        button->setChecked(true);
+    const EntryReading reading = ReadEntry(text1_->text(), index);
+    if (reading.boxText)
+        text1_->setText(*reading.boxText);
+    entryValue_ = reading.value;
+    if (multipleEntry_) {
+        entryTouched_ = false;
+        showMultiple(*option);
+        return;
+    }
+    if (entryTouched_)
+        text1_->setText(EntryBoxText(entryValue_));
+    entryTouched_ = false;
+    showSingle(*option);
+}
+
+void Convform::showSingle(const ConversionOption& option)
+{
+    const SingleConversion single = ConvertSingle(option, entryValue_, roundMode_);
+    label1_->setText(single.fromLabel);
+    label2_->setText(single.toLabel);
+    resultPanel_->setText(single.resultText);
+    label1_->show();
+    resultPanel_->show();
+    label2_->show();
+}
+
+void Convform::showMultiple(const ConversionOption& option)
+{
+    const EntryRange range = ReadRange(entryValue_, text2_->text());
+    if (range.endingBoxText)
+        text2_->setText(*range.endingBoxText);
+    const QList<ConversionRow> rows = ConvertRange(option, range, roundMode_);
+    grid_->clearContents();
+    grid_->setRowCount(int(rows.size()));
+    for (int row = 0; row < rows.size(); ++row) {
+        const QString cells[2] = {rows[row].amount, rows[row].converted};
+        for (int column = 0; column < 2; ++column) {
+            auto* item = new QTableWidgetItem(cells[column]);
+            item->setTextAlignment(Qt::AlignCenter);
+            grid_->setItem(row, column, item);
+        }
+    }
+    label1_->setText(QString::fromLatin1(option.fromUnit) + QStringLiteral(" = "));
+    label2_->setText(QString::fromLatin1(option.toUnit));
+    label1_->show();
+    label2_->show();
+}
+
+void Convform::setRoundMode(RoundMode mode)
+{
+    roundMode_ = mode;
+    if (QAction* entry = findChild<QAction*>(QStringLiteral("mRound%1").arg(static_cast<int>(mode))))
+        entry->setChecked(true);
+    if (chosenOption_ != kNoOption && !text1_->text().isEmpty())
+        chooseOption(chosenOption_);
+}
+
+// ---- Entry modes ------------------------------------------------------------
+
+void Convform::setMultipleEntry(bool multiple)
+{
+    multipleEntry_ = multiple;
+    findChild<QAction*>(multiple ? QStringLiteral("mMultipleEntry") : QStringLiteral("mSingleEntry"))
+        ->setChecked(true);
+    text1_->clear();
+    text2_->clear();
+    label1_->clear();
+    label2_->clear();
+    label1_->hide();
+    label2_->hide();
+    resultPanel_->clear();
+    resultPanel_->hide();
+    grid_->clearContents();
+    grid_->setRowCount(0);
+    text1Caption_->setText(EntryCaption(multiple));
+    text2Caption_->setVisible(multiple);
+    text2_->setVisible(multiple);
+    gridPanel_->setVisible(multiple);
+    placeUnitLabels();
+    text1_->setFocus(Qt::OtherFocusReason);
+    entryBoxEntered();
+}
+
+void Convform::placeUnitLabels()
+{
+    QBoxLayout* from = multipleEntry_ ? resultRow_ : gridLabelRow_;
+    QBoxLayout* to = multipleEntry_ ? gridLabelRow_ : resultRow_;
+    if (to->indexOf(label1_) >= 0)
+        return;
+    from->removeWidget(label1_);
+    from->removeWidget(label2_);
+    if (multipleEntry_) {
+        // Centred over the grid: between the row's two stretches.
+        to->insertWidget(1, label1_);
+        to->insertWidget(2, label2_);
+    } else {
+        to->insertWidget(0, label1_);
+        to->addWidget(label2_);
+    }
+}
+
+// Entering a box forgets the chosen option, so that the same button can be
+// pressed again, and makes the next conversion rewrite the box.
+void Convform::entryBoxEntered()
+{
+    clearChosenOption();
+    entryTouched_ = true;
+    if (!multipleEntry_) {
+        label1_->hide();
+        resultPanel_->hide();
+        label2_->hide();
+    }
+}
+
+void Convform::clearChosenOption()
+{
+    chosenOption_ = kNoOption;
+    options_->setExclusive(false);
+    for (QAbstractButton* button : options_->buttons())
+        button->setChecked(false);
+    options_->setExclusive(true);
+}
+
+// ---- Leaving ----------------------------------------------------------------
+
+bool Convform::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::FocusIn && (watched == text1_ || watched == text2_))
+        entryBoxEntered();
+    return ActivityWindow::eventFilter(watched, event);
+}
+
+void Convform::exitScreen()
+{
+    close();
+}
+
+void Convform::contextMenuEvent(QContextMenuEvent* event)
+{
+    findChild<QMenu*>(QStringLiteral("mOptions"))->popup(event->globalPos());
+}
+
+void Convform::closeEvent(QCloseEvent* event)
+{
+    panelColors_->offerToStoreOnClose();
+    event->accept();
+    emit closed();
+}

@@ -1,0 +1,85 @@
+#pragma once
+// Convform, the food measurement guide: a number in the entry box, one of
+// 43 option buttons in five groups, and the answer. Single entry shows one
+// result beside the box; multiple entry fills a grid for every step of 1
+// from the beginning to the ending entry. The arithmetic and every text
+// shown come from guides/logic/conversions.h; the screen holds the boxes,
+// labels and its working state.
+#include "guides/logic/conversions.h"
+
+#include "shell/screens/activitywindow.h"
+
+class Dialogs;
+class PanelColors;
+class QAction;
+class QBoxLayout;
+class QButtonGroup;
+class QFrame;
+class QLabel;
+class QLineEdit;
+class QMenu;
+class QTableWidget;
+class ScreenStatusBar;
+
+class Convform final : public ActivityWindow {
+    Q_OBJECT
+public:
+    static constexpr int kHelpTopic = 1030;
+
+    explicit Convform(Dialogs& dialogs, QWidget* parent = nullptr);
+
+    int chosenOption() const { return chosenOption_; }
+    RoundMode roundMode() const { return roundMode_; }
+    bool multipleEntry() const { return multipleEntry_; }
+    double entryValue() const { return entryValue_; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    // A right click on a panel or label opens the Options menu.
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    // Building (convformlayout.cpp).
+    QAction* addCommand(QMenu* menu, const char* objectName, const QString& caption);
+    void buildMenus();
+    void buildToolbars();
+    QFrame* buildEntryPanel(QWidget* parent);
+    QWidget* buildOptionFrames(QWidget* parent);
+    QFrame* buildGridPanel(QWidget* parent);
+    QFrame* buildCommandPanel(QWidget* parent);
+
+    void chooseOption(int index);
+    void showSingle(const ConversionOption& option);
+    void showMultiple(const ConversionOption& option);
+    void setRoundMode(RoundMode mode);
+    void setMultipleEntry(bool multiple);
+    // The unit labels stand beside the result in single entry and over the
+    // grid in multiple entry.
+    void placeUnitLabels();
+    void entryBoxEntered();
+    void clearChosenOption();
+    void exitScreen();
+
+    Dialogs& dialogs_;
+    ScreenStatusBar* statusBar_ = nullptr;
+    PanelColors* panelColors_ = nullptr;
+    QLineEdit* text1_ = nullptr;             // Text1
+    QLineEdit* text2_ = nullptr;             // Text2
+    QLabel* text1Caption_ = nullptr;
+    QLabel* text2Caption_ = nullptr;
+    QLabel* label1_ = nullptr;               // Label1: from unit and " = "
+    QLabel* label2_ = nullptr;               // Label2: to unit
+    QLabel* resultPanel_ = nullptr;          // Panel3D1
+    QFrame* gridPanel_ = nullptr;
+    QTableWidget* grid_ = nullptr;           // Grid1
+    QBoxLayout* resultRow_ = nullptr;        // where the unit labels stand in single entry
+    QBoxLayout* gridLabelRow_ = nullptr;     // and in multiple entry
+    QButtonGroup* options_ = nullptr;
+
+    double entryValue_ = 0;                  // EntryValue
+    RoundMode roundMode_ = RoundMode::None;  // RoundMode
+    bool multipleEntry_ = false;             // MultipleEntry
+    int chosenOption_ = kNoOption;           // ChosenOption
+    bool entryTouched_ = false;              // EntryTouched
+};

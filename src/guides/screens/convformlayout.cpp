@@ -1,0 +1,257 @@
+// Convform's menus, toolbars, panels and option buttons.
+#include "guides/screens/convform.h"
+
+#include "common/dialogs.h"
+#include "common/widgets/commandbutton.h"
+#include "common/widgets/twips.h"
+#include "shell/screens/panelcolors.h"
+#include "shell/screens/screentoolbars.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QBoxLayout>
+#include <QButtonGroup>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QTableWidget>
+#include <QToolBar>
+
+namespace {
+
+QFrame* RaisedPanel(QWidget* parent, const char* objectName)
+{
+    auto* panel = new QFrame(parent);
+    panel->setObjectName(QString::fromLatin1(objectName));
+    panel->setFrameStyle(QFrame::Panel | QFrame::Raised);
+    panel->setAutoFillBackground(true);
+    return panel;
+}
+
+QLabel* BoldLabel(const QString& text, QWidget* parent, const char* objectName)
+{
+    auto* label = new QLabel(text, parent);
+    label->setObjectName(QString::fromLatin1(objectName));
+    QFont font = label->font();
+    font.setBold(true);
+    label->setFont(font);
+    return label;
+}
+
+// The groups as the screen shows them: three columns, the short groups
+// stacked in the first.
+const QList<QList<ConversionGroup>> kColumns = {
+    {ConversionGroup::CanSizes, ConversionGroup::Temperature, ConversionGroup::EasyEquivalents},
+    {ConversionGroup::WeightsAndMeasures},
+    {ConversionGroup::HowMuchHowMany},
+};
+
+} // namespace
+
+QAction* Convform::addCommand(QMenu* menu, const char* objectName, const QString& caption)
+{
+    QAction* action = menu->addAction(caption);
+    action->setObjectName(QString::fromLatin1(objectName));
+    return action;
+}
+
+// The menu titles (Alt+O, Alt+H) leave Alt+C to the "&Close" button.
+void Convform::buildMenus()
+{
+    QMenu* options = menuBar()->addMenu(QStringLiteral("&Options"));
+    options->setObjectName(QStringLiteral("mOptions"));
+    auto* entryModes = new QActionGroup(this);
+    QAction* single = addCommand(options, "mSingleEntry", QStringLiteral("&Single Entry"));
+    QAction* multiple = addCommand(options, "mMultipleEntry", QStringLiteral("&Multiple Entry"));
+    for (QAction* action : {single, multiple}) {
+        action->setCheckable(true);
+        entryModes->addAction(action);
+    }
+    single->setChecked(true);
+    connect(single, &QAction::triggered, this, [this] { setMultipleEntry(false); });
+    connect(multiple, &QAction::triggered, this, [this] { setMultipleEntry(true); });
+    options->addSeparator();
+
+    QMenu* rounding = options->addMenu(QStringLiteral("&Round Off Number"));
+    rounding->setObjectName(QStringLiteral("mRoundOff"));
+    auto* roundModes = new QActionGroup(this);
+    for (int number = 1; number <= 5; ++number) {
+        const auto mode = static_cast<RoundMode>(number);
+        QAction* entry = rounding->addAction(RoundModeCaption(mode));
+        entry->setObjectName(QStringLiteral("mRound%1").arg(number));
+        entry->setCheckable(true);
+        entry->setChecked(mode == roundMode_);
+        roundModes->addAction(entry);
+        connect(entry, &QAction::triggered, this, [this, mode] { setRoundMode(mode); });
+    }
+    options->addSeparator();
+    addCommand(options, "mPanelColor", QStringLiteral("Panel C&olor"));
+    options->addSeparator();
+    connect(addCommand(options, "mExit", QStringLiteral("E&xit")), &QAction::triggered, this,
+            &Convform::exitScreen);
+
+    QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
+    help->setObjectName(QStringLiteral("mHelpMenu"));
+    addCommand(help, "mHelp", QStringLiteral("Measurement Guide &Help"))->setShortcut(QKeySequence(Qt::Key_F1));
+}
+
+void Convform::buildToolbars()
+{
+    auto* toolbars = new ScreenToolbars(this, statusBar_);
+    for (const char* name : {"mSingleEntry", "mMultipleEntry"})
+        toolbars->top()->addAction(findChild<QAction*>(QString::fromLatin1(name)));
+    toolbars->top()->addSeparator();
+    for (const char* name : {"mHelp", "mExit"})
+        toolbars->top()->addAction(findChild<QAction*>(QString::fromLatin1(name)));
+    toolbars->side()->addAction(findChild<QAction*>(QStringLiteral("mPanelColor")));
+    toolbars->applyFlags();
+}
+
+// One line: the entry box (two in multiple entry), then in single entry the
+// from unit, the result panel and the to unit.
+QFrame* Convform::buildEntryPanel(QWidget* parent)
+{
+    QFrame* panel = RaisedPanel(parent, "SSPanel1");
+    auto* row = new QHBoxLayout(panel);
+    row->setContentsMargins(12, 10, 12, 10);
+    text1Caption_ = BoldLabel(EntryCaption(false), panel, "Text1Caption");
+    text1_ = new QLineEdit(panel);
+    text1_->setObjectName(QStringLiteral("Text1"));
+    text2Caption_ = BoldLabel(EndingCaption(), panel, "Text2Caption");
+    text2_ = new QLineEdit(panel);
+    text2_->setObjectName(QStringLiteral("Text2"));
+    for (QLineEdit* box : {text1_, text2_}) {
+        box->setFixedWidth(text1_->fontMetrics().horizontalAdvance(QStringLiteral("0,000,000.0000")) + 16);
+        box->installEventFilter(this);
+        connect(box, &QLineEdit::returnPressed, this,
+                [this] { dialogs_.tell(InputInformationTitle(), InputInformationText(), Icon::Information); });
+    }
+    row->addWidget(text1Caption_);
+    row->addWidget(text1_);
+    row->addSpacing(12);
+    row->addWidget(text2Caption_);
+    row->addWidget(text2_);
+    row->addSpacing(12);
+
+    // The answer is what the user came for: a size larger than the rest.
+    label1_ = BoldLabel({}, panel, "Label1");
+    label2_ = BoldLabel({}, panel, "Label2");
+    QFont answerFont = label1_->font();
+    answerFont.setPointSize(answerFont.pointSize() + 2);
+    label1_->setFont(answerFont);
+    label2_->setFont(answerFont);
+    resultPanel_ = new QLabel(panel);
+    resultPanel_->setObjectName(QStringLiteral("Panel3D1"));
+    resultPanel_->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+    resultPanel_->setAlignment(Qt::AlignCenter);
+    resultPanel_->setMargin(4);
+    resultPanel_->setFont(answerFont);
+    resultPanel_->setMinimumWidth(resultPanel_->fontMetrics().horizontalAdvance(QStringLiteral("0000")));
+    resultPanel_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+    resultRow_ = new QHBoxLayout;
+    resultRow_->setSpacing(0);
+    resultRow_->addWidget(label1_);
+    resultRow_->addWidget(resultPanel_);
+    // The to unit follows the result panel at 70 twips, however wide the
+    // result is.
+    resultRow_->addSpacing(TwipsToPixels(70, panel));
+    resultRow_->addWidget(label2_);
+    row->addLayout(resultRow_);
+    row->addStretch(1);
+    return panel;
+}
+
+// The first column is the longest; the grid of multiple entry takes the
+// room under the other two.
+QWidget* Convform::buildOptionFrames(QWidget* parent)
+{
+    auto* area = new QWidget(parent);
+    area->setObjectName(QStringLiteral("OptionArea"));
+    auto* grid = new QGridLayout(area);
+    grid->setContentsMargins(0, 0, 0, 0);
+    options_ = new QButtonGroup(this);
+    options_->setObjectName(QStringLiteral("Option1"));
+    for (int column = 0; column < kColumns.size(); ++column) {
+        auto* stack = new QVBoxLayout;
+        for (const ConversionGroup group : kColumns[column]) {
+            auto* frame = new QGroupBox(GroupCaption(group), area);
+            frame->setObjectName(QStringLiteral("Frame%1").arg(static_cast<int>(group) + 1));
+            frame->setAutoFillBackground(true);
+            QFont bold = frame->font();
+            bold.setBold(true);
+            frame->setFont(bold);
+            auto* buttons = new QVBoxLayout(frame);
+            buttons->setSpacing(2);
+            for (const ConversionOption* option : OptionsOfGroup(group)) {
+                auto* button = new QRadioButton(QString::fromLatin1(option->caption), frame);
+                button->setObjectName(QStringLiteral("Option1_%1").arg(option->index));
+                QFont plain = button->font();
+                plain.setBold(false);
+                button->setFont(plain);
+                button->setFocusPolicy(Qt::TabFocus);
+                options_->addButton(button, option->index);
+                buttons->addWidget(button);
+            }
+            stack->addWidget(frame);
+            panelColors_->addPanel(frame);
+        }
+        stack->addStretch(1);
+        if (column == 0)
+            grid->addLayout(stack, 0, column, 2, 1);
+        else
+            grid->addLayout(stack, 0, column);
+    }
+    grid->addWidget(buildGridPanel(area), 1, 1, 1, 2);
+    grid->setRowStretch(1, 1);
+    connect(options_, &QButtonGroup::idClicked, this, &Convform::chooseOption);
+    return area;
+}
+
+// Multiple entry: the unit labels, the heading and the grid.
+QFrame* Convform::buildGridPanel(QWidget* parent)
+{
+    gridPanel_ = RaisedPanel(parent, "SSPanel2");
+    auto* column = new QVBoxLayout(gridPanel_);
+    gridLabelRow_ = new QHBoxLayout;
+    gridLabelRow_->setSpacing(0);
+    gridLabelRow_->addStretch(1);
+    gridLabelRow_->addStretch(1);
+    column->addLayout(gridLabelRow_);
+    auto* heading = BoldLabel(MultipleEntryHeading(), gridPanel_, "Label3");
+    heading->setAlignment(Qt::AlignCenter);
+    column->addWidget(heading);
+    grid_ = new QTableWidget(0, 2, gridPanel_);
+    grid_->setObjectName(QStringLiteral("Grid1"));
+    grid_->horizontalHeader()->hide();
+    grid_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    grid_->verticalHeader()->hide();
+    grid_->verticalHeader()->setDefaultSectionSize(grid_->fontMetrics().height() + 6);
+    grid_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    grid_->setSelectionMode(QAbstractItemView::NoSelection);
+    // The grid is as wide as its heading, so each half of the heading stands
+    // over its column.
+    grid_->setFixedWidth(heading->sizeHint().width() + grid_->verticalScrollBar()->sizeHint().width()
+                         + 2 * grid_->frameWidth());
+    column->addWidget(grid_, 1, Qt::AlignHCenter);
+    return gridPanel_;
+}
+
+QFrame* Convform::buildCommandPanel(QWidget* parent)
+{
+    QFrame* panel = RaisedPanel(parent, "SSPanel3");
+    auto* row = new QHBoxLayout(panel);
+    row->addStretch(1);
+    auto* close = new QPushButton(QStringLiteral("&Close"), panel);
+    close->setObjectName(QStringLiteral("Command1"));
+    close->setAutoDefault(false);
+    BindButtonToAction(close, findChild<QAction*>(QStringLiteral("mExit")));
+    row->addWidget(close);
+    return panel;
+}

@@ -1,0 +1,46 @@
+#pragma once
+// Foodg, the food guide: a small reference book of five fixed pages shown
+// one at a time in a read-only grid. Each page command is one QAction shared
+// by its "Options" menu entry, toolbar button and screen button.
+#include "guides/logic/foodguidepages.h"
+
+#include "shell/screens/activitywindow.h"
+
+class Dialogs;
+class PanelColors;
+class QLabel;
+class QTableWidget;
+class ScreenStatusBar;
+
+class Foodg final : public ActivityWindow {
+    Q_OBJECT
+public:
+    static constexpr int kHelpTopic = 1020;
+
+    explicit Foodg(Dialogs& dialogs, QWidget* parent = nullptr);
+
+    // Clears the grid and fills it with the page; the page shown is rebuilt
+    // too, so it always shows the guide's own text.
+    void showPage(FoodGuidePage page);
+    FoodGuidePage currentPage() const { return page_; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    // A right click on a panel or label opens the Options menu.
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    // The grid's columns follow its width by their shares.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void buildMenus();
+    void buildToolbars();
+    void buildCommandButtons(class QBoxLayout* layout, QWidget* parent);
+    void fitColumns();
+
+    Dialogs& dialogs_;
+    ScreenStatusBar* statusBar_ = nullptr;
+    PanelColors* panelColors_ = nullptr;
+    QLabel* title_ = nullptr;          // SSPanel1: the page's title
+    QTableWidget* grid_ = nullptr;     // VSGd1
+    FoodGuidePage page_ = FoodGuidePage::FoodGuide;
+};
