@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QMenu>
 
 void BindButtonToAction(QAbstractButton* button, QAction* action)
 {
@@ -10,4 +11,11 @@ void BindButtonToAction(QAbstractButton* button, QAction* action)
         button->setEnabled(action->isEnabled());
     });
     button->setEnabled(action->isEnabled());
+}
+
+QAction* AddCommand(QMenu* menu, const char* objectName, const QString& caption)
+{
+    QAction* action = menu->addAction(caption);
+    action->setObjectName(QString::fromLatin1(objectName));
+    return action;
 }

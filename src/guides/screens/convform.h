@@ -41,7 +41,6 @@ protected:
 
 private:
     // Building (convformlayout.cpp).
-    QAction* addCommand(QMenu* menu, const char* objectName, const QString& caption);
     void buildMenus();
     void buildToolbars();
     QFrame* buildEntryPanel(QWidget* parent);

@@ -55,21 +55,14 @@ const QList<QList<ConversionGroup>> kColumns = {
 
 } // namespace
 
-QAction* Convform::addCommand(QMenu* menu, const char* objectName, const QString& caption)
-{
-    QAction* action = menu->addAction(caption);
-    action->setObjectName(QString::fromLatin1(objectName));
-    return action;
-}
-
 // The menu titles (Alt+O, Alt+H) leave Alt+C to the "&Close" button.
 void Convform::buildMenus()
 {
     QMenu* options = menuBar()->addMenu(QStringLiteral("&Options"));
     options->setObjectName(QStringLiteral("mOptions"));
     auto* entryModes = new QActionGroup(this);
-    QAction* single = addCommand(options, "mSingleEntry", QStringLiteral("&Single Entry"));
-    QAction* multiple = addCommand(options, "mMultipleEntry", QStringLiteral("&Multiple Entry"));
+    QAction* single = AddCommand(options, "mSingleEntry", QStringLiteral("&Single Entry"));
+    QAction* multiple = AddCommand(options, "mMultipleEntry", QStringLiteral("&Multiple Entry"));
     for (QAction* action : {single, multiple}) {
         action->setCheckable(true);
         entryModes->addAction(action);
@@ -92,14 +85,14 @@ void Convform::buildMenus()
         connect(entry, &QAction::triggered, this, [this, mode] { setRoundMode(mode); });
     }
     options->addSeparator();
-    addCommand(options, "mPanelColor", QStringLiteral("Panel C&olor"));
+    AddCommand(options, "mPanelColor", QStringLiteral("Panel C&olor"));
     options->addSeparator();
-    connect(addCommand(options, "mExit", QStringLiteral("E&xit")), &QAction::triggered, this,
+    connect(AddCommand(options, "mExit", QStringLiteral("E&xit")), &QAction::triggered, this,
             &Convform::exitScreen);
 
     QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
     help->setObjectName(QStringLiteral("mHelpMenu"));
-    addCommand(help, "mHelp", QStringLiteral("Measurement Guide &Help"))->setShortcut(QKeySequence(Qt::Key_F1));
+    AddCommand(help, "mHelp", QStringLiteral("Measurement Guide &Help"))->setShortcut(QKeySequence(Qt::Key_F1));
 }
 
 void Convform::buildToolbars()

@@ -40,13 +40,6 @@ constexpr PageCommand kPageCommands[] = {
     {"mHealthySubstitutes", FoodGuidePage::HealthySubstitutes},
 };
 
-QAction* AddCommand(QMenu* menu, const char* objectName, const QString& caption)
-{
-    QAction* action = menu->addAction(caption);
-    action->setObjectName(QString::fromLatin1(objectName));
-    return action;
-}
-
 QFrame* RaisedPanel(const char* objectName, QWidget* parent)
 {
     auto* panel = new QFrame(parent);

@@ -59,7 +59,6 @@ protected:
 
 private:
     // Building (form5layout.cpp).
-    QAction* addCommand(QMenu* menu, const char* objectName, const QString& caption);
     void buildMenus();
     void buildToolbars();
     void buildCommandButtons(QWidget* parent, class QBoxLayout* layout);

@@ -30,60 +30,53 @@ constexpr CommandButton kButtons[] = {
 
 } // namespace
 
-QAction* Form5::addCommand(QMenu* menu, const char* objectName, const QString& caption)
-{
-    QAction* action = menu->addAction(caption);
-    action->setObjectName(QString::fromLatin1(objectName));
-    return action;
-}
-
 // No menu title takes a letter that a button of the screen or of its panels
 // uses (Alt+E is "S&earch", Alt+R "Search by &Recipe").
 void Form5::buildMenus()
 {
     QMenu* recipe = menuBar()->addMenu(QStringLiteral("&File"));
     recipe->setObjectName(QStringLiteral("mRecipe"));
-    connect(addCommand(recipe, "mCreate", QStringLiteral("&Create Recipe")), &QAction::triggered, this,
+    connect(AddCommand(recipe, "mCreate", QStringLiteral("&Create Recipe")), &QAction::triggered, this,
             &Form5::createRecipe);
-    connect(addCommand(recipe, "mView", QStringLiteral("&View Recipe")), &QAction::triggered, this,
+    connect(AddCommand(recipe, "mView", QStringLiteral("&View Recipe")), &QAction::triggered, this,
             &Form5::viewRecipes);
-    connect(addCommand(recipe, "mModify", QStringLiteral("&Modify Recipe")), &QAction::triggered, this,
+    connect(AddCommand(recipe, "mModify", QStringLiteral("&Modify Recipe")), &QAction::triggered, this,
             &Form5::modifyRecipe);
-    connect(addCommand(recipe, "mSave", QStringLiteral("&Save")), &QAction::triggered, this, &Form5::saveRecipe);
-    connect(addCommand(recipe, "mDelete", QStringLiteral("&Delete Recipe")), &QAction::triggered, this,
+    connect(AddCommand(recipe, "mSave", QStringLiteral("&Save")), &QAction::triggered, this, &Form5::saveRecipe);
+    connect(AddCommand(recipe, "mDelete", QStringLiteral("&Delete Recipe")), &QAction::triggered, this,
             &Form5::deleteRecipe);
-    connect(addCommand(recipe, "mRename", QStringLiteral("Change Recipe &Name")), &QAction::triggered, this,
+    connect(AddCommand(recipe, "mRename", QStringLiteral("Change Recipe &Name")), &QAction::triggered, this,
             &Form5::openRename);
     recipe->addSeparator();
     // The tools below come with their own screens and panels; until then
     // their entries stay disabled.
-    addCommand(recipe, "mCalculate", QStringLiteral("C&alculate Amounts"));
-    addCommand(recipe, "mSearch", QStringLiteral("Searc&h"));
-    addCommand(recipe, "mSpelling", QStringLiteral("S&pelling Check"));
+    AddCommand(recipe, "mCalculate", QStringLiteral("C&alculate Amounts"));
+    AddCommand(recipe, "mSearch", QStringLiteral("Searc&h"));
+    AddCommand(recipe, "mSpelling", QStringLiteral("S&pelling Check"));
     recipe->addSeparator();
-    addCommand(recipe, "mCopy", QStringLiteral("Cop&y"));
-    addCommand(recipe, "mExport", QStringLiteral("&Export Recipe"));
-    addCommand(recipe, "mImport", QStringLiteral("&Import Recipe"));
+    AddCommand(recipe, "mCopy", QStringLiteral("Cop&y"));
+    AddCommand(recipe, "mExport", QStringLiteral("&Export Recipe"));
+    AddCommand(recipe, "mImport", QStringLiteral("&Import Recipe"));
     recipe->addSeparator();
-    addCommand(recipe, "mPrint", QStringLiteral("&Print Options"));
-    addCommand(recipe, "mWorksheet", QStringLiteral("Print &Worksheet"));
+    AddCommand(recipe, "mPrint", QStringLiteral("&Print Options"));
+    AddCommand(recipe, "mWorksheet", QStringLiteral("Print &Worksheet"));
     recipe->addSeparator();
-    connect(addCommand(recipe, "mExit", QStringLiteral("E&xit")), &QAction::triggered, this, &Form5::exitScreen);
+    connect(AddCommand(recipe, "mExit", QStringLiteral("E&xit")), &QAction::triggered, this, &Form5::exitScreen);
 
     QMenu* options = menuBar()->addMenu(QStringLiteral("&Options"));
     options->setObjectName(QStringLiteral("mOptions"));
     buildCookbookMenu(options);
     options->addSeparator();
-    addCommand(options, "mPanelColor", QStringLiteral("Panel C&olor"));
+    AddCommand(options, "mPanelColor", QStringLiteral("Panel C&olor"));
 
     QMenu* utilities = menuBar()->addMenu(QStringLiteral("&Utilities"));
     utilities->setObjectName(QStringLiteral("mUtilities"));
-    addCommand(utilities, "mBackup", QStringLiteral("&Backup Recipes to Disk"));
-    addCommand(utilities, "mRestore", QStringLiteral("&Restore Recipes from Disk"));
+    AddCommand(utilities, "mBackup", QStringLiteral("&Backup Recipes to Disk"));
+    AddCommand(utilities, "mRestore", QStringLiteral("&Restore Recipes from Disk"));
 
     QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
     help->setObjectName(QStringLiteral("mHelpMenu"));
-    addCommand(help, "mHelp", QStringLiteral("Recipe File &Help"))->setShortcut(QKeySequence(Qt::Key_F1));
+    AddCommand(help, "mHelp", QStringLiteral("Recipe File &Help"))->setShortcut(QKeySequence(Qt::Key_F1));
 }
 
 void Form5::buildToolbars()
@@ -108,13 +101,13 @@ void Form5::buildCookbookMenu(QMenu* options)
     cookbookMenu_ = options->addMenu(QStringLiteral("Select Cook&book"));
     cookbookMenu_->setObjectName(QStringLiteral("mSelectCookbook"));
     for (int cookbook = 1; cookbook <= kCookbookCount; ++cookbook) {
-        QAction* entry = addCommand(cookbookMenu_, "", QStringLiteral("Cookbook #&%1").arg(cookbook));
+        QAction* entry = AddCommand(cookbookMenu_, "", QStringLiteral("Cookbook #&%1").arg(cookbook));
         entry->setObjectName(QStringLiteral("mCookbook%1").arg(cookbook));
         entry->setCheckable(true);
         connect(entry, &QAction::triggered, this, [this, cookbook] { selectCookbook(cookbook); });
         cookbookEntries_[cookbook - 1] = entry;
     }
-    connect(addCommand(options, "mTitles", QStringLiteral("Cookbook &Titles")), &QAction::triggered, this,
+    connect(AddCommand(options, "mTitles", QStringLiteral("Cookbook &Titles")), &QAction::triggered, this,
             &Form5::openTitles);
 }
 

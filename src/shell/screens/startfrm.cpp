@@ -108,41 +108,34 @@ Startfrm::Startfrm(Dialogs& dialogs, const ScreenMetrics& screen, QWidget* paren
     runStart();
 }
 
-QAction* Startfrm::addCommand(QMenu* menu, const char* objectName, const QString& caption)
-{
-    QAction* action = menu->addAction(caption);
-    action->setObjectName(QString::fromLatin1(objectName));
-    return action;
-}
-
 void Startfrm::buildMenus()
 {
     optionsMenu_ = menuBar()->addMenu(QStringLiteral("&Options"));
     optionsMenu_->setObjectName(QStringLiteral("mOptions"));
-    addCommand(optionsMenu_, "mBackground", QStringLiteral("&Background Selector"));
+    AddCommand(optionsMenu_, "mBackground", QStringLiteral("&Background Selector"));
     QMenu* display = optionsMenu_->addMenu(QStringLiteral("&Program Display"));
     display->setObjectName(QStringLiteral("mProgramDisplay"));
-    mFullScreen_ = addCommand(display, "mFullScreen", QStringLiteral("&Full Screen Display"));
-    mSmallerScreen_ = addCommand(display, "mSmallerScreen", QStringLiteral("&Smaller Screen Display"));
+    mFullScreen_ = AddCommand(display, "mFullScreen", QStringLiteral("&Full Screen Display"));
+    mSmallerScreen_ = AddCommand(display, "mSmallerScreen", QStringLiteral("&Smaller Screen Display"));
     display->addSeparator();
-    mDefaultSize_ = addCommand(display, "mDefaultSize", QStringLiteral("&Default Screen Size"));
+    mDefaultSize_ = AddCommand(display, "mDefaultSize", QStringLiteral("&Default Screen Size"));
     for (QAction* tickable : {mFullScreen_, mSmallerScreen_, mDefaultSize_})
         tickable->setCheckable(true);
     connect(mFullScreen_, &QAction::triggered, this, &Startfrm::fullScreenDisplay);
     connect(mSmallerScreen_, &QAction::triggered, this, &Startfrm::smallerScreenDisplay);
     connect(mDefaultSize_, &QAction::triggered, this, &Startfrm::defaultScreenSize);
     optionsMenu_->addSeparator();
-    connect(addCommand(optionsMenu_, "mFamilyName", QStringLiteral("&Family Name")), &QAction::triggered, this,
+    connect(AddCommand(optionsMenu_, "mFamilyName", QStringLiteral("&Family Name")), &QAction::triggered, this,
             &Startfrm::askFamilyName);
     optionsMenu_->addSeparator();
-    connect(addCommand(optionsMenu_, "mExit", QStringLiteral("E&xit")), &QAction::triggered, this,
+    connect(AddCommand(optionsMenu_, "mExit", QStringLiteral("E&xit")), &QAction::triggered, this,
             &Startfrm::exitProgram);
 
     // The activity screens; an entry whose screen is not built yet stays disabled.
     QMenu* activities = menuBar()->addMenu(QStringLiteral("Brindlepot"));
     activities->setObjectName(QStringLiteral("mBrindlepot"));
     const auto addActivity = [&](const char* name, const char* caption) {
-        addCommand(activities, name, QString::fromLatin1(caption))->setEnabled(false);
+        AddCommand(activities, name, QString::fromLatin1(caption))->setEnabled(false);
     };
     addActivity("mRecipeFiles", "&Recipe Files");
     addActivity("mFoodGuide", "&Food Guide");
@@ -158,16 +151,16 @@ void Startfrm::buildMenus()
 
     QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
     help->setObjectName(QStringLiteral("mHelp"));
-    connect(addCommand(help, "mOverview", QStringLiteral("&Program Overview")), &QAction::triggered, this,
+    connect(AddCommand(help, "mOverview", QStringLiteral("&Program Overview")), &QAction::triggered, this,
             [this] { showHelp(kOverviewTopic); });
     help->addSeparator();
-    connect(addCommand(help, "mBackupRestore", QStringLiteral("&Backup and Restore Option")), &QAction::triggered,
+    connect(AddCommand(help, "mBackupRestore", QStringLiteral("&Backup and Restore Option")), &QAction::triggered,
             this, [this] { showHelp(kBackupTopic); });
     help->addSeparator();
-    connect(addCommand(help, "mAbout", QStringLiteral("&About Brindlepot")), &QAction::triggered, this,
+    connect(AddCommand(help, "mAbout", QStringLiteral("&About Brindlepot")), &QAction::triggered, this,
             &Startfrm::showAbout);
     help->addSeparator();
-    connect(addCommand(help, "mWeb", QStringLiteral("Tollenmark on the &Web")), &QAction::triggered, this,
+    connect(AddCommand(help, "mWeb", QStringLiteral("Tollenmark on the &Web")), &QAction::triggered, this,
             &Startfrm::openWebSite);
 }
 

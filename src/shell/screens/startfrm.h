@@ -46,7 +46,6 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    QAction* addCommand(QMenu* menu, const char* objectName, const QString& caption);
     void buildMenus();
     void buildCommandPanel();
 
