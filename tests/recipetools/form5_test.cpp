@@ -1035,3 +1035,18 @@ TEST_F(Form5Test, AltRInTheSearchOptionsOpensTheNameSearch)
     EXPECT_TRUE(form->findChild<QFrame*>("Search Options")->isHidden());
     EXPECT_TRUE(form->findChild<QLineEdit*>("Text12")->hasFocus());
 }
+
+TEST_F(Form5Test, TheScreenFitsTheSmallestWindowAndUsesOneRowOfButtonsWhenWide)
+{
+    auto form = open();
+    EXPECT_LE(form->minimumSizeHint().width(), 800);
+    EXPECT_LE(form->minimumSizeHint().height(), 600);
+    form->resize(800, 600);
+    form->show();
+    auto* create = form->findChild<QPushButton*>("Command1_0");
+    auto* exitButton = form->findChild<QPushButton*>("Command1_9");
+    EXPECT_GT(exitButton->y(), create->y()) << "two rows on a small window";
+    form->resize(1600, 1000);
+    QApplication::processEvents();
+    EXPECT_EQ(exitButton->y(), create->y()) << "one row on a wide one";
+}

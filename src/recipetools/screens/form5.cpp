@@ -18,7 +18,6 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QContextMenuEvent>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -82,9 +81,10 @@ Form5::Form5(Dialogs& dialogs, QWidget* parent) : ActivityWindow(parent), dialog
     commands->setObjectName(QStringLiteral("SSPanel5"));
     commands->setFrameStyle(QFrame::Panel | QFrame::Raised);
     commands->setAutoFillBackground(true);
-    auto* buttons = new QHBoxLayout(commands);
-    buildCommandButtons(commands, buttons);
+    buildCommandButtons(commands);
     auto* layout = new QVBoxLayout(central);
+    layout->setContentsMargins(4, 4, 4, 4);
+    layout->setSpacing(4);
     layout->addWidget(titleStrip_);
     layout->addWidget(fields_, 1);
     layout->addWidget(commands);

@@ -22,8 +22,10 @@ class CookbookTitlesPanel;
 class Dialogs;
 class PanelColors;
 class QAction;
+class QGridLayout;
 class QLabel;
 class QMenu;
+class QPushButton;
 class RecipeFieldsPanel;
 class RenamePanel;
 class ScreenStatusBar;
@@ -56,12 +58,14 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     // A right click on a panel or label opens the Options menu.
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     // Building (form5layout.cpp).
     void buildMenus();
     void buildToolbars();
-    void buildCommandButtons(QWidget* parent, class QBoxLayout* layout);
+    void buildCommandButtons(QWidget* parent);
+    void arrangeCommandButtons(int perRow);
     void buildCookbookMenu(QMenu* options);
 
     // The cookbook.
@@ -129,6 +133,9 @@ private:
     ScreenStatusBar* statusBar_ = nullptr;
     PanelColors* panelColors_ = nullptr;
     QLabel* titleStrip_ = nullptr;           // SSPanel4
+    QGridLayout* commandGrid_ = nullptr;
+    QList<QPushButton*> commandButtons_;       // Command1(0) to Command1(9)
+    int buttonsPerRow_ = 0;
     QMenu* cookbookMenu_ = nullptr;
     std::array<QAction*, kCookbookCount> cookbookEntries_{};
 

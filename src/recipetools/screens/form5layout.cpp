@@ -6,7 +6,7 @@
 #include "shell/screens/screentoolbars.h"
 
 #include <QAction>
-#include <QBoxLayout>
+#include <QGridLayout>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
@@ -111,13 +111,38 @@ void Form5::buildCookbookMenu(QMenu* options)
             &Form5::openTitles);
 }
 
-void Form5::buildCommandButtons(QWidget* parent, QBoxLayout* layout)
+void Form5::buildCommandButtons(QWidget* parent)
 {
+    commandGrid_ = new QGridLayout(parent);
     for (int i = 0; i < int(std::size(kButtons)); ++i) {
         auto* button = new QPushButton(QString::fromLatin1(kButtons[i].caption), parent);
         button->setObjectName(QStringLiteral("Command1_%1").arg(i));
         button->setAutoDefault(false);
         BindButtonToAction(button, findChild<QAction*>(QString::fromLatin1(kButtons[i].action)));
-        layout->addWidget(button);
+        commandButtons_ << button;
     }
+    arrangeCommandButtons(int(commandButtons_.size()) / 2); // one row once the window is wide enough
+}
+
+// One row of ten buttons where the window is wide enough, two rows of five
+// on a smaller screen.
+void Form5::arrangeCommandButtons(int perRow)
+{
+    if (perRow == buttonsPerRow_)
+        return;
+    buttonsPerRow_ = perRow;
+    for (QPushButton* button : commandButtons_)
+        commandGrid_->removeWidget(button);
+    for (int i = 0; i < commandButtons_.size(); ++i)
+        commandGrid_->addWidget(commandButtons_[i], i / perRow, i % perRow);
+}
+
+void Form5::resizeEvent(QResizeEvent* event)
+{
+    ActivityWindow::resizeEvent(event);
+    int oneRow = 0;
+    for (const QPushButton* button : commandButtons_)
+        oneRow += button->sizeHint().width() + commandGrid_->horizontalSpacing();
+    const int available = centralWidget()->width() - 40;
+    arrangeCommandButtons(available >= oneRow ? int(commandButtons_.size()) : int(commandButtons_.size()) / 2);
 }

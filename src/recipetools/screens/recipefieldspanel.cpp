@@ -132,6 +132,7 @@ void RecipeFieldsPanel::buildLayout()
     nameStack_->addWidget(text8_);
     nameStack_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     auto* topRow = new QHBoxLayout(top);
+    topRow->setContentsMargins(6, 4, 6, 4);
     topRow->addWidget(Caption(QStringLiteral("Type:"), top, true));
     topRow->addWidget(combo1_, 2);
     topRow->addSpacing(16);
@@ -140,8 +141,9 @@ void RecipeFieldsPanel::buildLayout()
 
     auto* rows = Block(QStringLiteral("Frame2"), this);
     auto* grid = new QGridLayout(rows);
+    grid->setContentsMargins(6, 4, 6, 4);
     grid->setHorizontalSpacing(4);
-    grid->setVerticalSpacing(2);
+    grid->setVerticalSpacing(1);
     grid->addWidget(Caption(QStringLiteral("    Ingredients:"), rows, true), 0, 0, 1, 7);
     for (int block = 0; block < 2; ++block) {
         const int column = block * 4;
@@ -156,9 +158,9 @@ void RecipeFieldsPanel::buildLayout()
         text1_[row] = MakeBox(QStringLiteral("Text1_%1").arg(row), kAmountBoxLength, rows);
         text4_[row] = MakeBox(QStringLiteral("Text4_%1").arg(row), kUnitLength, rows);
         text5_[row] = MakeBox(QStringLiteral("Text5_%1").arg(row), kIngredientLength, rows);
-        text1_[row]->setFixedWidth(64);
-        text4_[row]->setFixedWidth(80);
-        text5_[row]->setMinimumWidth(200);
+        text1_[row]->setFixedWidth(56);
+        text4_[row]->setFixedWidth(72);
+        text5_[row]->setMinimumWidth(120); // the screen still fits a window of 800 by 600
         grid->addWidget(text1_[row], line, column);
         grid->addWidget(text4_[row], line, column + 1);
         grid->addWidget(text5_[row], line, column + 2);
@@ -170,16 +172,20 @@ void RecipeFieldsPanel::buildLayout()
     text2_ = new QPlainTextEdit(bottom);
     text2_->setObjectName(QStringLiteral("Text2"));
     text2_->setTabChangesFocus(true);
+    text2_->setMinimumSize(160, 48);
     label13_ = new QLabel(QStringLiteral("0"), bottom);
     label13_->setObjectName(QStringLiteral("Label13"));
+    // The length counter stands under the box, where it takes no width
+    // from the cooking and serving information.
     auto* counter = new QHBoxLayout;
-    counter->addWidget(Caption(QStringLiteral("   Directions:"), bottom, true));
     counter->addStretch();
     counter->addWidget(Caption(QStringLiteral("Length (Max. = 1000) :"), bottom));
     counter->addWidget(label13_);
     auto* directions = new QVBoxLayout;
-    directions->addLayout(counter);
+    directions->setSpacing(2);
+    directions->addWidget(Caption(QStringLiteral("   Directions:"), bottom, true));
     directions->addWidget(text2_);
+    directions->addLayout(counter);
 
     text3_ = MakeBox(QStringLiteral("Text3"), kOvenTemperatureLength, bottom);
     text3_->setFixedWidth(56);
@@ -195,28 +201,33 @@ void RecipeFieldsPanel::buildLayout()
     combo4_->addItems(sortedYields);
     combo4_->setCurrentIndex(-1);
     combo4_->setEditText(QString());
+    // Three rows, each block's heading beside its first field, so that the
+    // whole screen still fits a window of 800 by 600.
     auto* info = new QGridLayout;
-    info->addWidget(Caption(QStringLiteral("   Cooking Information:"), bottom, true), 0, 0, 1, 3);
-    info->addWidget(Caption(QStringLiteral("Oven Temperature:"), bottom), 1, 0);
+    info->setVerticalSpacing(4);
+    info->addWidget(Caption(QStringLiteral("   Cooking Information:"), bottom, true), 0, 0);
+    info->addWidget(Caption(QStringLiteral("Oven Temperature:"), bottom), 0, 1);
     auto* oven = new QHBoxLayout;
     oven->addWidget(text3_);
     oven->addWidget(Caption(QStringLiteral("Degrees"), bottom));
     oven->addStretch();
-    info->addLayout(oven, 1, 1, 1, 2);
-    info->addWidget(Caption(QStringLiteral("Cooking Time:"), bottom), 2, 0);
-    info->addWidget(text7_, 2, 1, 1, 2);
-    info->addWidget(Caption(QStringLiteral("  Serving Information:"), bottom, true), 3, 0, 1, 3);
-    info->addWidget(Caption(QStringLiteral("Yields:"), bottom), 4, 0);
-    info->addWidget(text6_, 4, 1);
-    info->addWidget(combo4_, 4, 2);
-    info->setRowStretch(5, 1);
+    info->addLayout(oven, 0, 2, 1, 2);
+    info->addWidget(Caption(QStringLiteral("Cooking Time:"), bottom), 1, 1);
+    info->addWidget(text7_, 1, 2, 1, 2);
+    info->addWidget(Caption(QStringLiteral("  Serving Information:"), bottom, true), 2, 0);
+    info->addWidget(Caption(QStringLiteral("Yields:"), bottom), 2, 1);
+    info->addWidget(text6_, 2, 2);
+    info->addWidget(combo4_, 2, 3);
+    info->setRowStretch(3, 1);
     auto* bottomRow = new QHBoxLayout(bottom);
+    bottomRow->setContentsMargins(6, 4, 6, 4);
     bottomRow->addLayout(directions, 3);
     bottomRow->addSpacing(12);
     bottomRow->addLayout(info, 1);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(4);
     layout->addWidget(top);
     layout->addWidget(rows);
     layout->addWidget(bottom, 1);
