@@ -8,34 +8,33 @@ namespace {
 struct TypeRow {
     int number;
     const char* name;
-    const char* prefix;
-    const char* nameFileOfCookbook1;
+    const char* nameFileOfCookbook1; // its first four letters are the type's prefix
 };
 
-// The type list in its order, with the prefix that names each name file.
+// The type list in its order, with the name file of each in cookbook 1.
 const TypeRow kTypeRows[] = {
-    {1, "Appetizers and beverages", "Appe", "Appenfil.db1"},
-    {2, "Barbecues", "Barb", "Barbnfil.db1"},
-    {3, "Breads", "Brea", "Breanfil.db1"},
-    {4, "Cakes, frostings, and fillings", "Cake", "Cakenfil.db1"},
-    {5, "Candies", "Cand", "Candnfil.db1"},
-    {6, "Canning and freezing", "Cann", "Cannnfil.db1"},
-    {7, "Casseroles", "Cass", "Cassnfil.db1"},
-    {8, "Cookies", "Cook", "Cooknfil.db1"},
-    {9, "Desserts", "Dess", "Dessnfil.db1"},
-    {10, "Dips", "Dips", "Dipsnfil.db1"},
-    {11, "Easy Meals", "Easy", "Easynfil.db1"},
-    {12, "Entrees", "Entr", "Entrnfil.db1"},
-    {13, "Fruits", "Frui", "Fruinfil.db1"},
-    {14, "Lowin fat or calorie meals", "Lowi", "Lowinfil.db1"},
-    {15, "Meats", "Meat", "Meatnfil.db1"},
-    {16, "Pastry and Pies", "Past", "Pastnfil.db1"},
-    {17, "Poultry, fish and eggs", "Poul", "Poulnfil.db1"},
-    {18, "Salads and salad dressings", "Sala", "Salanfil.db1"},
-    {19, "Soups and sauces", "Soup", "Soupnfil.db1"},
-    {20, "Special or miscellaneous", "Spec", "Specnfil.db1"},
-    {21, "Stews", "Stew", "Stewnfil.db1"},
-    {22, "Vegetables", "Vege", "Vegenfil.db1"},
+    {1, "Appetizers and beverages", "Appenfil.db1"},
+    {2, "Barbecues", "Barbnfil.db1"},
+    {3, "Breads", "Breanfil.db1"},
+    {4, "Cakes, frostings, and fillings", "Cakenfil.db1"},
+    {5, "Candies", "Candnfil.db1"},
+    {6, "Canning and freezing", "Cannnfil.db1"},
+    {7, "Casseroles", "Cassnfil.db1"},
+    {8, "Cookies", "Cooknfil.db1"},
+    {9, "Desserts", "Dessnfil.db1"},
+    {10, "Dips", "Dipsnfil.db1"},
+    {11, "Easy Meals", "Easynfil.db1"},
+    {12, "Entrees", "Entrnfil.db1"},
+    {13, "Fruits", "Fruinfil.db1"},
+    {14, "Lowin fat or calorie meals", "Lowinfil.db1"},
+    {15, "Meats", "Meatnfil.db1"},
+    {16, "Pastry and Pies", "Pastnfil.db1"},
+    {17, "Poultry, fish and eggs", "Poulnfil.db1"},
+    {18, "Salads and salad dressings", "Salanfil.db1"},
+    {19, "Soups and sauces", "Soupnfil.db1"},
+    {20, "Special or miscellaneous", "Specnfil.db1"},
+    {21, "Stews", "Stewnfil.db1"},
+    {22, "Vegetables", "Vegenfil.db1"},
 };
 
 TEST(RecipeTypes, TableOfNamesPrefixesAndNameFiles)
@@ -45,7 +44,7 @@ TEST(RecipeTypes, TableOfNamesPrefixesAndNameFiles)
         SCOPED_TRACE(row.name);
         const auto type = static_cast<RecipeType>(row.number);
         EXPECT_EQ(RecipeTypeName(type), QString::fromLatin1(row.name));
-        EXPECT_EQ(TypePrefix(type), QString::fromLatin1(row.prefix));
+        EXPECT_EQ(TypePrefix(type), QString::fromLatin1(row.nameFileOfCookbook1).left(4));
         EXPECT_EQ(NameFileName(1, type), QString::fromLatin1(row.nameFileOfCookbook1));
         EXPECT_EQ(RecipeTypeFromName(QString::fromLatin1(row.name)), type);
     }
