@@ -2,9 +2,7 @@
 
 #include "cookbook/logic/cookbooknames.h"
 #include "recipetools/screens/overlaypanel.h"
-#include "recipetools/screens/searchgrid.h"
-#include "shell/screens/gridcolors.h"
-#include "shell/screens/screenbusy.h"
+#include "recipetools/screens/searchresults.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -65,27 +63,17 @@ IngredientSearchPanel::IngredientSearchPanel(QWidget* parent) : QFrame(parent)
     auto* searchByType = new QPushButton(QStringLiteral("&Search By Type"), this);
     searchByType->setObjectName(QStringLiteral("cmdSearchByType"));
 
-    grid_ = MakeSearchGrid(this, QStringLiteral("VSFlexGrid2"), QStringLiteral("Recipe Type"),
-                           QStringLiteral("Recipe Name"));
-    countLabel_ = MakeCountLabel(this);
-    noMatchPanel_ = MakeNoMatchPanel(this, kNoMatchingIngredients);
-
-    viewSelected_ = new QPushButton(QStringLiteral("&View Selected Recipe"), this);
-    viewSelected_->setObjectName(QStringLiteral("cmdViewSelectedIngredient"));
-    viewSelected_->setEnabled(false);
-    auto* closeButton = new QPushButton(QStringLiteral("&Close"), this);
-    closeButton->setObjectName(QStringLiteral("cmdCloseIngredientSearch"));
+    results_ = new SearchResults({QStringLiteral("VSFlexGrid2"), QStringLiteral("Recipe Type"), kNoMatchingIngredients,
+                                  QStringLiteral("cmdViewSelectedIngredient"),
+                                  QStringLiteral("cmdCloseIngredientSearch")},
+                                 SearchResults::EmptySearch::DisablesViewSelected, this);
 
     for (int i = 1; i < 3; ++i)
         connect(boxes_[std::size_t(i)], &QLineEdit::textChanged, this, &IngredientSearchPanel::updateOptionsFrame);
     connect(searchAll, &QPushButton::clicked, this, [this] { command(false); });
     connect(searchByType, &QPushButton::clicked, this, [this] { command(true); });
-    connect(viewSelected_, &QPushButton::clicked, this, &IngredientSearchPanel::viewSelected);
-    connect(grid_, &QTableWidget::cellDoubleClicked, this, [this](int row, int) {
-        grid_->selectRow(row);
-        viewSelected();
-    });
-    connect(closeButton, &QPushButton::clicked, this, &IngredientSearchPanel::closeRequested);
+    connect(results_, &SearchResults::viewSelectedRequested, this, &IngredientSearchPanel::viewSelectedRequested);
+    connect(results_, &SearchResults::closeRequested, this, &IngredientSearchPanel::closeRequested);
 
     auto* typeColumn = new QVBoxLayout;
     typeColumn->addWidget(typePrompt);
@@ -101,18 +89,11 @@ IngredientSearchPanel::IngredientSearchPanel(QWidget* parent) : QFrame(parent)
     commands->addStretch();
     commands->addWidget(searchAll);
     commands->addWidget(searchByType);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(viewSelected_);
-    buttons->addWidget(closeButton);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(title);
     layout->addLayout(top);
     layout->addLayout(commands);
-    layout->addWidget(grid_, 1);
-    layout->addWidget(countLabel_);
-    layout->addWidget(noMatchPanel_);
-    layout->addLayout(buttons);
+    layout->addWidget(results_, 1);
     hide();
 }
 
@@ -144,42 +125,27 @@ std::optional<RecipeType> IngredientSearchPanel::pickedType() const
 
 void IngredientSearchPanel::showResults(const QList<SearchHit>& hits)
 {
-    resetResults();
-    FillSearchGrid(grid_, hits);
-    if (hits.isEmpty()) {
-        noMatchPanel_->show();
-        return;
-    }
-    countLabel_->setText(IngredientSearchCountText(searchByType_, hits.size()));
-    countLabel_->show();
-    viewSelected_->setEnabled(true);
+    results_->showHits(hits, IngredientSearchCountText(searchByType_, hits.size()));
 }
 
 void IngredientSearchPanel::runSearch(const std::function<QList<SearchHit>()>& search)
 {
-    QList<SearchHit> hits;
-    {
-        const ScreenBusy busy;
-        resetResults();
-        hits = search();
-    }
-    showResults(hits);
+    results_->run(search, [this](qsizetype hits) { return IngredientSearchCountText(searchByType_, hits); });
 }
 
 std::optional<SearchHit> IngredientSearchPanel::selectedHit() const
 {
-    return SelectedSearchHit(grid_);
+    return results_->selectedHit();
+}
+
+QTableWidget* IngredientSearchPanel::grid() const
+{
+    return results_->grid();
 }
 
 QLineEdit* IngredientSearchPanel::box(int number) const
 {
     return (number >= 1 && number <= 3) ? boxes_[std::size_t(number - 1)] : nullptr;
-}
-
-void IngredientSearchPanel::showEvent(QShowEvent* event)
-{
-    ApplyGridColors(grid_, ReadSharedGridColors());
-    QFrame::showEvent(event);
 }
 
 void IngredientSearchPanel::command(bool byType)
@@ -201,18 +167,4 @@ void IngredientSearchPanel::command(bool byType)
 void IngredientSearchPanel::updateOptionsFrame()
 {
     optionsFrame_->setVisible(MultiIngredientFrameShown(boxes_[1]->text(), boxes_[2]->text()));
-}
-
-void IngredientSearchPanel::resetResults()
-{
-    noMatchPanel_->hide();
-    countLabel_->hide();
-    viewSelected_->setEnabled(false);
-    ResetSearchGrid(grid_);
-}
-
-void IngredientSearchPanel::viewSelected()
-{
-    if (selectedHit())
-        emit viewSelectedRequested();
 }

@@ -18,6 +18,7 @@ class QListWidget;
 class QPushButton;
 class QRadioButton;
 class QTableWidget;
+class SearchResults;
 
 class IngredientSearchPanel final : public QFrame {
     Q_OBJECT
@@ -49,7 +50,7 @@ public:
     QLineEdit* box(int number) const;
     QListWidget* typeList() const { return typeList_; }
     QGroupBox* optionsFrame() const { return optionsFrame_; }
-    QTableWidget* grid() const { return grid_; }
+    QTableWidget* grid() const;
 
 signals:
     void searchAllRequested();
@@ -58,23 +59,15 @@ signals:
     void viewSelectedRequested();
     void closeRequested();
 
-protected:
-    void showEvent(QShowEvent* event) override;
-
 private:
     void command(bool byType);
     void updateOptionsFrame();
-    void resetResults();
-    void viewSelected();
 
     std::array<QLineEdit*, 3> boxes_{};  // Text13, Text14, Text15
     QGroupBox* optionsFrame_ = nullptr;  // "Multi-Ingredient Options"
     QRadioButton* allOf_ = nullptr;
     QRadioButton* anyOf_ = nullptr;
     QListWidget* typeList_ = nullptr;
-    QTableWidget* grid_ = nullptr;       // VSFlexGrid2
-    QLabel* countLabel_ = nullptr;
-    QLabel* noMatchPanel_ = nullptr;
-    QPushButton* viewSelected_ = nullptr;
+    SearchResults* results_ = nullptr;   // grid VSFlexGrid2 and its buttons
     bool searchByType_ = false;
 };

@@ -1,9 +1,7 @@
 #include "recipetools/screens/namesearchpanel.h"
 
 #include "recipetools/screens/overlaypanel.h"
-#include "recipetools/screens/searchgrid.h"
-#include "shell/screens/gridcolors.h"
-#include "shell/screens/screenbusy.h"
+#include "recipetools/screens/searchresults.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -31,43 +29,25 @@ NameSearchPanel::NameSearchPanel(QWidget* parent) : QFrame(parent)
     auto* viewAllButton = new QPushButton(QStringLiteral("View &All Recipes"), this);
     viewAllButton->setObjectName(QStringLiteral("cmdViewAllRecipes"));
 
-    grid_ = MakeSearchGrid(this, QStringLiteral("VSFlexGrid1"), QStringLiteral("Type Recipe"),
-                           QStringLiteral("Recipe Name"));
-    countLabel_ = MakeCountLabel(this);
-    noMatchPanel_ = MakeNoMatchPanel(this, kNoMatchingRecipes);
-
-    viewSelected_ = new QPushButton(QStringLiteral("&View Selected Recipe"), this);
-    viewSelected_->setObjectName(QStringLiteral("cmdViewSelectedName"));
-    viewSelected_->setEnabled(false);
-    auto* closeButton = new QPushButton(QStringLiteral("&Close"), this);
-    closeButton->setObjectName(QStringLiteral("cmdCloseNameSearch"));
+    results_ = new SearchResults({QStringLiteral("VSFlexGrid1"), QStringLiteral("Type Recipe"), kNoMatchingRecipes,
+                                  QStringLiteral("cmdViewSelectedName"), QStringLiteral("cmdCloseNameSearch")},
+                                 SearchResults::EmptySearch::KeepsViewSelected, this);
 
     connect(searchButton, &QPushButton::clicked, this, &NameSearchPanel::search);
     connect(searchBox_, &QLineEdit::returnPressed, this, &NameSearchPanel::search);
     connect(viewAllButton, &QPushButton::clicked, this, &NameSearchPanel::viewAll);
-    connect(viewSelected_, &QPushButton::clicked, this, &NameSearchPanel::viewSelected);
-    connect(grid_, &QTableWidget::cellDoubleClicked, this, [this](int row, int) {
-        grid_->selectRow(row);
-        viewSelected();
-    });
-    connect(closeButton, &QPushButton::clicked, this, &NameSearchPanel::closeRequested);
+    connect(results_, &SearchResults::viewSelectedRequested, this, &NameSearchPanel::viewSelectedRequested);
+    connect(results_, &SearchResults::closeRequested, this, &NameSearchPanel::closeRequested);
 
     auto* entry = new QHBoxLayout;
     entry->addWidget(prompt);
     entry->addWidget(searchBox_, 1);
     entry->addWidget(searchButton);
     entry->addWidget(viewAllButton);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(viewSelected_);
-    buttons->addWidget(closeButton);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(title);
     layout->addLayout(entry);
-    layout->addWidget(grid_, 1);
-    layout->addWidget(countLabel_);
-    layout->addWidget(noMatchPanel_);
-    layout->addLayout(buttons);
+    layout->addWidget(results_, 1);
     hide();
 }
 
@@ -79,40 +59,22 @@ void NameSearchPanel::open()
 
 void NameSearchPanel::showResults(const QList<SearchHit>& hits)
 {
-    noMatchPanel_->hide();
-    countLabel_->hide();
-    FillSearchGrid(grid_, hits);
-    if (hits.isEmpty()) {
-        noMatchPanel_->show();
-        return;
-    }
-    countLabel_->setText(NameSearchCountText(hits.size()));
-    countLabel_->show();
-    viewSelected_->setEnabled(true);
+    results_->showHits(hits, NameSearchCountText(hits.size()));
 }
 
 void NameSearchPanel::runSearch(const std::function<QList<SearchHit>()>& search)
 {
-    QList<SearchHit> hits;
-    {
-        const ScreenBusy busy;
-        noMatchPanel_->hide();
-        countLabel_->hide();
-        ResetSearchGrid(grid_);
-        hits = search();
-    }
-    showResults(hits);
+    results_->run(search, NameSearchCountText);
 }
 
 std::optional<SearchHit> NameSearchPanel::selectedHit() const
 {
-    return SelectedSearchHit(grid_);
+    return results_->selectedHit();
 }
 
-void NameSearchPanel::showEvent(QShowEvent* event)
+QTableWidget* NameSearchPanel::grid() const
 {
-    ApplyGridColors(grid_, ReadSharedGridColors());
-    QFrame::showEvent(event);
+    return results_->grid();
 }
 
 bool NameSearchPanel::eventFilter(QObject* watched, QEvent* event)
@@ -136,10 +98,4 @@ void NameSearchPanel::viewAll()
 {
     searchBox_->setText(kViewAllText);
     emit viewAllRequested();
-}
-
-void NameSearchPanel::viewSelected()
-{
-    if (selectedHit())
-        emit viewSelectedRequested();
 }

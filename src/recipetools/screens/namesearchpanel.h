@@ -9,10 +9,9 @@
 #include <functional>
 #include <optional>
 
-class QLabel;
 class QLineEdit;
-class QPushButton;
 class QTableWidget;
+class SearchResults;
 
 class NameSearchPanel final : public QFrame {
     Q_OBJECT
@@ -34,7 +33,7 @@ public:
     std::optional<SearchHit> selectedHit() const;
 
     QLineEdit* searchBox() const { return searchBox_; }
-    QTableWidget* grid() const { return grid_; }
+    QTableWidget* grid() const;
 
 signals:
     // "&Search" with text in the box (an empty box does nothing).
@@ -46,17 +45,12 @@ signals:
     void closeRequested();
 
 protected:
-    void showEvent(QShowEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void search();
     void viewAll();
-    void viewSelected();
 
     QLineEdit* searchBox_ = nullptr;     // Text12
-    QTableWidget* grid_ = nullptr;       // VSFlexGrid1
-    QLabel* countLabel_ = nullptr;
-    QLabel* noMatchPanel_ = nullptr;
-    QPushButton* viewSelected_ = nullptr;
+    SearchResults* results_ = nullptr;   // grid VSFlexGrid1 and its buttons
 };
