@@ -26,6 +26,7 @@ Convform::Convform(Dialogs& dialogs, QWidget* parent) : ActivityWindow(parent), 
     statusBar_ = new ScreenStatusBar(this);
     setStatusBar(statusBar_);
     panelColors_ = new PanelColors(dialogs_, kConvformPanelColor, statusBar_, this);
+    setPanelColors(panelColors_);
     buildMenus();
     buildToolbars();
 
@@ -199,16 +200,4 @@ bool Convform::eventFilter(QObject* watched, QEvent* event)
 void Convform::exitScreen()
 {
     close();
-}
-
-void Convform::contextMenuEvent(QContextMenuEvent* event)
-{
-    findChild<QMenu*>(QStringLiteral("mOptions"))->popup(event->globalPos());
-}
-
-void Convform::closeEvent(QCloseEvent* event)
-{
-    panelColors_->offerToStoreOnClose();
-    event->accept();
-    emit closed();
 }

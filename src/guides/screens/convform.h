@@ -34,9 +34,6 @@ public:
     double entryValue() const { return entryValue_; }
 
 protected:
-    void closeEvent(QCloseEvent* event) override;
-    // A right click on a panel or label opens the Options menu.
-    void contextMenuEvent(QContextMenuEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

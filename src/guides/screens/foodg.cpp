@@ -106,6 +106,7 @@ Foodg::Foodg(Dialogs& dialogs, QWidget* parent) : ActivityWindow(parent), dialog
     layout->addWidget(commands);
 
     panelColors_ = new PanelColors(dialogs_, kFoodgPanelColor, statusBar_, this);
+    setPanelColors(panelColors_);
     panelColors_->addPanel(title_);
     panelColors_->addPanel(commands);
     panelColors_->applyStored();
@@ -207,16 +208,4 @@ bool Foodg::eventFilter(QObject* watched, QEvent* event)
     if (grid_ && watched == grid_->viewport() && event->type() == QEvent::Resize)
         fitColumns();
     return ActivityWindow::eventFilter(watched, event);
-}
-
-void Foodg::contextMenuEvent(QContextMenuEvent* event)
-{
-    findChild<QMenu*>(QStringLiteral("mOptions"))->popup(event->globalPos());
-}
-
-void Foodg::closeEvent(QCloseEvent* event)
-{
-    panelColors_->offerToStoreOnClose();
-    event->accept();
-    emit closed();
 }

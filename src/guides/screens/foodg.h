@@ -25,9 +25,6 @@ public:
     FoodGuidePage currentPage() const { return page_; }
 
 protected:
-    void closeEvent(QCloseEvent* event) override;
-    // A right click on a panel or label opens the Options menu.
-    void contextMenuEvent(QContextMenuEvent* event) override;
     // The grid's columns follow its width by their shares.
     bool eventFilter(QObject* watched, QEvent* event) override;
 

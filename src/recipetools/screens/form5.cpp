@@ -95,6 +95,7 @@ Form5::Form5(Dialogs& dialogs, QWidget* parent) : ActivityWindow(parent), dialog
     titlesPanel_ = new CookbookTitlesPanel(central);
 
     panelColors_ = new PanelColors(dialogs_, kForm5PanelColor, statusBar_, this);
+    setPanelColors(panelColors_);
     panelColors_->addPanel(titleStrip_);
     panelColors_->addPanel(commands);
     for (QWidget* panel : fields_->colouredPanels())
@@ -413,27 +414,17 @@ void Form5::exitScreen()
     close();
 }
 
-void Form5::contextMenuEvent(QContextMenuEvent* event)
+// Leaving the screen with changes asks the short save question; a refused
+// save keeps the screen open.
+bool Form5::readyToClose()
 {
-    findChild<QMenu*>(QStringLiteral("mOptions"))->popup(event->globalPos());
-}
-
-void Form5::closeEvent(QCloseEvent* event)
-{
-    if (state_.recipeChanged || state_.amountsRecalculated) {
-        const Answer answer = dialogs_.ask({kRecipeFile, QStringLiteral("Save Current Recipe before exiting?"),
-                                            Buttons::YesNo, Icon::Question, 1});
-        if (answer == Answer::Yes) {
-            save(false);
-            if (saveRefused_) {
-                event->ignore();
-                return;
-            }
-        }
-    }
-    panelColors_->offerToStoreOnClose();
-    event->accept();
-    emit closed();
+    if (!state_.recipeChanged && !state_.amountsRecalculated)
+        return true;
+    const Answer answer = dialogs_.ask({kRecipeFile, QStringLiteral("Save Current Recipe before exiting?"),
+                                        Buttons::YesNo, Icon::Question, 1});
+    if (answer == Answer::Yes)
+        save(false);
+    return answer != Answer::Yes || !saveRefused_;
 }
 
 // ---- Fields -----------------------------------------------------------------

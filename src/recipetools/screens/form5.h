@@ -55,9 +55,7 @@ public:
     RecipeFieldsPanel* fieldsPanel() const { return fields_; }
 
 protected:
-    void closeEvent(QCloseEvent* event) override;
-    // A right click on a panel or label opens the Options menu.
-    void contextMenuEvent(QContextMenuEvent* event) override;
+    bool readyToClose() override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
