@@ -11,8 +11,6 @@
 #include <QAction>
 #include <QBoxLayout>
 #include <QButtonGroup>
-#include <QCloseEvent>
-#include <QContextMenuEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>

@@ -9,8 +9,6 @@
 #include "shell/screens/screentoolbars.h"
 
 #include <QAction>
-#include <QCloseEvent>
-#include <QContextMenuEvent>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>

@@ -15,9 +15,7 @@
 #include "shell/screens/screenstatusbar.h"
 
 #include <QAction>
-#include <QCloseEvent>
 #include <QComboBox>
-#include <QContextMenuEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
