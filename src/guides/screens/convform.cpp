@@ -7,6 +7,7 @@
 #include "shell/screens/panelcolors.h"
 #include "shell/screens/screenstatusbar.h"
 
+#include <QEvent>
 #include <QAbstractButton>
 #include <QAction>
 #include <QBoxLayout>
