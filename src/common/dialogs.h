@@ -1,13 +1,19 @@
 #pragma once
-// Every message box, question, input box and colour dialog of the program
-// goes through this one interface, so that titles, texts, buttons and
+// Every message box, question, input box, colour, font, page setup and print
+// dialog of the program goes through this one interface, so that titles, texts, buttons and
 // defaults are contracts that tests can read back. The real implementation shows Qt dialogs; tests
 // use a scripted one.
+#include "common/pagesetup.h"
+#include "common/textfont.h"
+
 #include <QString>
 #include <QUrl>
 #include <QtGlobal>
 
+#include <functional>
 #include <optional>
+
+class QPagedPaintDevice;
 
 // Button sets and icons keep the classic message-box values.
 enum class Buttons { Ok = 0, OkCancel = 1, YesNoCancel = 3, YesNo = 4 };
@@ -34,6 +40,14 @@ struct InputRequest {
     bool operator==(const InputRequest&) const = default;
 };
 
+struct PrintJob {
+    QString title;
+    PageSetup setup;
+    int pageCount = 0;
+    // False when the device refused the painting.
+    std::function<bool(QPagedPaintDevice& device, int first, int last)> render;
+};
+
 class Dialogs {
 public:
     virtual ~Dialogs() = default;
@@ -46,6 +60,18 @@ public:
     // or nothing when the user cancelled: the one dialog failure the program
     // handles (the old runtime's error 32755).
     virtual std::optional<qint32> chooseColor(qint32 initial) = 0;
+
+    // The font dialog, preset from `initial`: the font chosen, or nothing
+    // when the user cancelled.
+    virtual std::optional<TextFont> chooseFont(const TextFont& initial) = 0;
+    // The printer's page setup dialog: the paper and orientation chosen, or
+    // nothing when the user cancelled.
+    virtual std::optional<PageSetup> pageSetup(const PageSetup& current) = 0;
+    // The print dialog for a document of `job.pageCount` pages. When the
+    // user accepts, `job.render` paints pages `first` to `last` (1-based)
+    // on the chosen device: a printer, or a PDF file for "print to file".
+    // True when the document was sent.
+    virtual bool print(const PrintJob& job) = 0;
 
     // A message with only an OK button.
     void tell(const QString& title, const QString& text, Icon icon = Icon::None)

@@ -1,5 +1,8 @@
 #include "scripted_dialogs.h"
 
+#include "common/widgets/qtpagesetup.h"
+
+#include <QPdfWriter>
 #include <gtest/gtest.h>
 
 ScriptedDialogs::~ScriptedDialogs()
@@ -20,6 +23,32 @@ void ScriptedDialogs::expectInput(const QString& title, const QString& reply)
 void ScriptedDialogs::expectColor(std::optional<qint32> reply)
 {
     script_.push_back(ExpectedColor{reply});
+}
+
+void ScriptedDialogs::expectFont(std::optional<TextFont> reply)
+{
+    script_.push_back(ExpectedFont{std::move(reply)});
+}
+
+void ScriptedDialogs::expectPageSetup(std::optional<PageSetup> reply)
+{
+    script_.push_back(ExpectedPageSetup{reply});
+}
+
+void ScriptedDialogs::expectPrint(const QString& pdfPath)
+{
+    script_.push_back(ExpectedPrint{pdfPath});
+}
+
+template <typename T> std::optional<T> ScriptedDialogs::next(const std::string& what)
+{
+    if (script_.empty() || !std::holds_alternative<T>(script_.front())) {
+        ADD_FAILURE() << "unexpected " << what;
+        return std::nullopt;
+    }
+    T expected = std::get<T>(script_.front());
+    script_.pop_front();
+    return expected;
 }
 
 Answer ScriptedDialogs::ask(const Message& message)
@@ -65,4 +94,30 @@ std::optional<qint32> ScriptedDialogs::chooseColor(qint32 initial)
     const ExpectedColor expected = std::get<ExpectedColor>(script_.front());
     script_.pop_front();
     return expected.reply;
+}
+
+std::optional<TextFont> ScriptedDialogs::chooseFont(const TextFont& initial)
+{
+    fontRequests_.append(initial);
+    const auto expected = next<ExpectedFont>("font dialog");
+    return expected ? expected->reply : std::nullopt;
+}
+
+std::optional<PageSetup> ScriptedDialogs::pageSetup(const PageSetup& current)
+{
+    pageSetupRequests_.append(current);
+    const auto expected = next<ExpectedPageSetup>("page setup dialog");
+    return expected ? expected->reply : std::nullopt;
+}
+
+bool ScriptedDialogs::print(const PrintJob& job)
+{
+    printJobs_.append(job);
+    const auto expected = next<ExpectedPrint>("print dialog");
+    if (!expected || expected->pdfPath.isEmpty())
+        return false;
+    QPdfWriter writer(expected->pdfPath);
+    writer.setTitle(job.title);
+    writer.setPageLayout(PageLayoutOf(job.setup));
+    return job.render(writer, 1, job.pageCount);
 }

@@ -20,25 +20,50 @@ public:
     // Expect the colour dialog; pick `reply`, or cancel it with nothing.
     void expectColor(std::optional<qint32> reply);
 
+    // Expect the font dialog; pick `reply`, or cancel it with nothing.
+    void expectFont(std::optional<TextFont> reply);
+    // Expect the page setup dialog; accept `reply`, or cancel it with nothing.
+    void expectPageSetup(std::optional<PageSetup> reply);
+    // Expect the print dialog; "print to file" into the PDF `pdfPath`, or
+    // cancel it with the empty text.
+    void expectPrint(const QString& pdfPath);
+
     Answer ask(const Message& message) override;
     QString input(const InputRequest& request) override;
     void openUrl(const QUrl& url) override;
     std::optional<qint32> chooseColor(qint32 initial) override;
+    std::optional<TextFont> chooseFont(const TextFont& initial) override;
+    std::optional<PageSetup> pageSetup(const PageSetup& current) override;
+    bool print(const PrintJob& job) override;
 
     const QList<Message>& messages() const { return messages_; }
     const QList<InputRequest>& inputs() const { return inputs_; }
     const QList<QUrl>& openedUrls() const { return urls_; }
     // The colour each colour dialog was opened on, in order.
     const QList<qint32>& colorRequests() const { return colorRequests_; }
+    const QList<TextFont>& fontRequests() const { return fontRequests_; }
+    const QList<PageSetup>& pageSetupRequests() const { return pageSetupRequests_; }
+    // Title, page setup and page count of each print dialog, in order.
+    const QList<PrintJob>& printJobs() const { return printJobs_; }
     bool scriptDone() const { return script_.empty(); }
 
 private:
     struct ExpectedMessage { QString title, text; Answer answer; };
     struct ExpectedInput { QString title, reply; };
     struct ExpectedColor { std::optional<qint32> reply; };
-    std::deque<std::variant<ExpectedMessage, ExpectedInput, ExpectedColor>> script_;
+    struct ExpectedFont { std::optional<TextFont> reply; };
+    struct ExpectedPageSetup { std::optional<PageSetup> reply; };
+    struct ExpectedPrint { QString pdfPath; };
+    using Expected = std::variant<ExpectedMessage, ExpectedInput, ExpectedColor, ExpectedFont, ExpectedPageSetup,
+                                  ExpectedPrint>;
+    // The next scripted step when it is a `T`; else the test fails with `what`.
+    template <typename T> std::optional<T> next(const std::string& what);
+    std::deque<Expected> script_;
     QList<Message> messages_;
     QList<InputRequest> inputs_;
     QList<QUrl> urls_;
     QList<qint32> colorRequests_;
+    QList<TextFont> fontRequests_;
+    QList<PageSetup> pageSetupRequests_;
+    QList<PrintJob> printJobs_;
 };

@@ -1,13 +1,25 @@
 #include "common/widgets/qtdialogs.h"
 
 #include "common/widgets/qtcolors.h"
+#include "common/widgets/qtpagesetup.h"
+
+#include "common/colors.h"
 
 #include <QApplication>
 #include <QColorDialog>
+#include <QComboBox>
 #include <QDesktopServices>
+#include <QDialogButtonBox>
+#include <QFontDialog>
+#include <QFormLayout>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPageSetupDialog>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -39,6 +51,65 @@ QList<ButtonChoice> ButtonsOf(Buttons buttons)
     }
     return {{QMessageBox::Ok, Answer::Ok}};
 }
+
+// The printer set to the paper of `setup`, painting from the paper's corner.
+void PreparePrinter(QPrinter& printer, const PageSetup& setup)
+{
+    printer.setFullPage(true);
+    printer.setPageLayout(PageLayoutOf(setup));
+}
+
+// Qt's font dialog, held inside a dialog of our own that adds the colour
+// list of the classic font dialog's effects.
+class FontDialog final : public QDialog {
+public:
+    explicit FontDialog(const TextFont& initial)
+        : QDialog(QApplication::activeWindow())
+    {
+        setWindowTitle(QStringLiteral("Font"));
+        auto* layout = new QVBoxLayout(this);
+        fonts_ = new QFontDialog(this);
+        fonts_->setWindowFlags(Qt::Widget);
+        fonts_->setOptions(QFontDialog::NoButtons | QFontDialog::DontUseNativeDialog);
+        QFont font(initial.name);
+        font.setPointSizeF(initial.size > 0 ? initial.size : 12);
+        font.setBold(initial.bold);
+        font.setItalic(initial.italic);
+        font.setUnderline(initial.underline);
+        font.setStrikeOut(initial.strikethru);
+        fonts_->setCurrentFont(font);
+        layout->addWidget(fonts_);
+        auto* colorRow = new QFormLayout;
+        colors_ = new QComboBox(this);
+        for (int index = 0; index < 16; ++index) {
+            const QColor color = ColorFromColorref(QBColor(index));
+            QPixmap swatch(24, 12);
+            swatch.fill(color);
+            colors_->addItem(QIcon(swatch), color.name(), QBColor(index));
+        }
+        const int current = colors_->findData(initial.color);
+        if (current < 0)
+            colors_->addItem(ColorFromColorref(initial.color).name(), initial.color);
+        colors_->setCurrentIndex(current >= 0 ? current : colors_->count() - 1);
+        colorRow->addRow(QStringLiteral("&Color:"), colors_);
+        layout->addLayout(colorRow);
+        auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+        connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+        connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+        layout->addWidget(buttons);
+    }
+
+    TextFont chosen() const
+    {
+        const QFont font = fonts_->currentFont();
+        return TextFont{font.family(), font.pointSizeF(), font.bold(), font.italic(), font.underline(),
+                        font.strikeOut(), colors_->currentData().toInt()};
+    }
+
+private:
+    QFontDialog* fonts_ = nullptr;
+    QComboBox* colors_ = nullptr;
+};
 
 } // namespace
 
@@ -83,4 +154,37 @@ std::optional<qint32> QtDialogs::chooseColor(qint32 initial)
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     return ColorrefFromColor(dialog.selectedColor());
+}
+
+std::optional<TextFont> QtDialogs::chooseFont(const TextFont& initial)
+{
+    FontDialog dialog(initial);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return dialog.chosen();
+}
+
+std::optional<PageSetup> QtDialogs::pageSetup(const PageSetup& current)
+{
+    QPrinter printer(QPrinter::HighResolution);
+    PreparePrinter(printer, current);
+    QPageSetupDialog dialog(&printer, QApplication::activeWindow());
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return PageSetupOf(printer.pageLayout());
+}
+
+bool QtDialogs::print(const PrintJob& job)
+{
+    QPrinter printer(QPrinter::HighResolution);
+    PreparePrinter(printer, job.setup);
+    printer.setDocName(job.title);
+    QPrintDialog dialog(&printer, QApplication::activeWindow());
+    dialog.setMinMax(1, qMax(1, job.pageCount));
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    const bool range = printer.printRange() == QPrinter::PageRange && printer.fromPage() > 0;
+    const int first = range ? printer.fromPage() : 1;
+    const int last = range ? qMin(printer.toPage(), job.pageCount) : job.pageCount;
+    return job.render(printer, first, last);
 }

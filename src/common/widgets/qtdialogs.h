@@ -4,11 +4,15 @@
 class QWidget;
 
 // The real dialogs: QMessageBox and QInputDialog with the exact title, text,
-// icon, buttons and default button asked for; QColorDialog for colours.
+// icon, buttons and default button asked for; QColorDialog for colours; the
+// font dialog with a colour list; Qt's page setup and print dialogs.
 class QtDialogs final : public Dialogs {
 public:
     Answer ask(const Message& message) override;
     QString input(const InputRequest& request) override;
     void openUrl(const QUrl& url) override;
     std::optional<qint32> chooseColor(qint32 initial) override;
+    std::optional<TextFont> chooseFont(const TextFont& initial) override;
+    std::optional<PageSetup> pageSetup(const PageSetup& current) override;
+    bool print(const PrintJob& job) override;
 };

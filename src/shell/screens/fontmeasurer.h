@@ -1,0 +1,16 @@
+#pragma once
+// Measures text with the platform's font metrics on a 1440-dpi device, so a
+// point is 20 twips and the same text in the same font always measures alike,
+// whatever screen the program runs on.
+#include "shell/logic/textmeasurer.h"
+
+#include <QFont>
+
+class FontMeasurer final : public TextMeasurer {
+public:
+    double textWidth(const TextFont& font, const QString& text) const override;
+    double lineHeight(const TextFont& font) const override;
+};
+
+// The QFont of a TextFont at its point size.
+QFont QFontOf(const TextFont& font);
