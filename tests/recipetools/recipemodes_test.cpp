@@ -12,7 +12,8 @@ struct Row {
 };
 
 RecipeScreenState State(RecipeMode mode, bool shown = false, bool changed = false, bool recalculated = false,
-                        bool panel = false, bool hasRecipes = true, bool calculator = false, bool search = false)
+                        bool panel = false, bool hasRecipes = true, bool calculator = false, bool search = false,
+                        bool print = false)
 {
     return {.mode = mode,
             .recipeShown = shown,
@@ -21,11 +22,12 @@ RecipeScreenState State(RecipeMode mode, bool shown = false, bool changed = fals
             .panelOpen = panel,
             .calculatorOpen = calculator,
             .searchOpen = search,
+            .printOpen = print,
             .cookbookHasRecipes = hasRecipes};
 }
 
 // create, view, modify, save, delete, rename, print, calculate, search,
-// spelling, copy, export, import, cookbook menus
+// spelling, copy, export, import, cookbook menus, worksheet
 RecipeCommandStates On(std::initializer_list<int> bits)
 {
     const auto b = [&](int i) { return *(bits.begin() + i) != 0; };
@@ -42,7 +44,8 @@ RecipeCommandStates On(std::initializer_list<int> bits)
             .copy = b(10),
             .exportRecipe = b(11),
             .importRecipe = b(12),
-            .cookbookMenus = b(13)};
+            .cookbookMenus = b(13),
+            .worksheet = b(14)};
 }
 
 } // namespace
@@ -50,23 +53,25 @@ RecipeCommandStates On(std::initializer_list<int> bits)
 TEST(RecipeModes, CommandStatesByMode)
 {
     const Row rows[] = {
-        {"idle", State(RecipeMode::Idle), On({1, 1, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1})},
-        {"create, nothing typed", State(RecipeMode::Create), On({0, 1, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 1, 1})},
+        {"idle", State(RecipeMode::Idle), On({1, 1, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 1})},
+        {"create, nothing typed", State(RecipeMode::Create), On({0, 1, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 1, 1, 1})},
         {"create in an empty cookbook", State(RecipeMode::Create, false, false, false, false, false),
-         On({0, 0, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 1, 1})},
-        {"create, typed", State(RecipeMode::Create, false, true), On({0, 1, 0, 1, 0, 0, 0, 0, 1, 1, 0, 0, 1, 1})},
-        {"view, list open", State(RecipeMode::View), On({1, 0, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1})},
-        {"view, recipe shown", State(RecipeMode::View, true), On({1, 0, 1, 0, 1, 1, 1, 1, 1, 0, 1, 1, 0, 1})},
+         On({0, 0, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 1, 1, 1})},
+        {"create, typed", State(RecipeMode::Create, false, true), On({0, 1, 0, 1, 0, 0, 0, 0, 1, 1, 0, 0, 1, 1, 1})},
+        {"view, list open", State(RecipeMode::View), On({1, 0, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 1})},
+        {"view, recipe shown", State(RecipeMode::View, true), On({1, 0, 1, 0, 1, 1, 1, 1, 1, 0, 1, 1, 0, 1, 1})},
         {"view after the calculator", State(RecipeMode::View, true, false, true),
-         On({1, 0, 1, 1, 1, 1, 1, 1, 1, 0, 1, 1, 0, 1})},
-        {"modify", State(RecipeMode::Modify, true), On({1, 0, 0, 0, 1, 1, 1, 1, 1, 0, 0, 0, 0, 1})},
-        {"modify, typed", State(RecipeMode::Modify, true, true), On({1, 0, 0, 1, 1, 1, 1, 1, 1, 1, 1, 0, 0, 1})},
+         On({1, 0, 1, 1, 1, 1, 1, 1, 1, 0, 1, 1, 0, 1, 1})},
+        {"modify", State(RecipeMode::Modify, true), On({1, 0, 0, 0, 1, 1, 1, 1, 1, 0, 0, 0, 0, 1, 1})},
+        {"modify, typed", State(RecipeMode::Modify, true, true), On({1, 0, 0, 1, 1, 1, 1, 1, 1, 1, 1, 0, 0, 1, 1})},
         {"rename panel open", State(RecipeMode::View, true, false, false, true),
-         On({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0})},
+         On({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0})},
         {"calculator open", State(RecipeMode::View, true, false, true, false, true, true),
-         On({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0})},
+         On({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0})},
         {"search open", State(RecipeMode::View, true, false, false, false, true, false, true),
-         On({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0})},
+         On({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0})},
+        {"print options open", State(RecipeMode::View, true, false, false, false, true, false, false, true),
+         On({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0})},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -85,6 +90,7 @@ TEST(RecipeModes, CommandStatesByMode)
         EXPECT_EQ(on.exportRecipe, row.expected.exportRecipe);
         EXPECT_EQ(on.importRecipe, row.expected.importRecipe);
         EXPECT_EQ(on.cookbookMenus, row.expected.cookbookMenus);
+        EXPECT_EQ(on.worksheet, row.expected.worksheet);
     }
 }
 

@@ -9,6 +9,7 @@
 #include "shell/screens/pagepreview.h"
 #include "shell/screens/printoptionspanel.h"
 
+#include "pdf_text.h"
 #include "scripted_dialogs.h"
 #include "temp_program_folder.h"
 
@@ -17,7 +18,6 @@
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
-#include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
@@ -58,14 +58,6 @@ struct PanelFixture : ::testing::Test {
 
     QString field(const char* name) const { return panel->findChild<QLineEdit*>(name)->text(); }
 };
-
-QString PdfText(const QString& pdfPath)
-{
-    QProcess process;
-    process.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), pdfPath, QStringLiteral("-")});
-    process.waitForFinished(30000);
-    return QString::fromUtf8(process.readAllStandardOutput());
-}
 
 } // namespace
 

@@ -52,10 +52,13 @@ QList<ButtonChoice> ButtonsOf(Buttons buttons)
     return {{QMessageBox::Ok, Answer::Ok}};
 }
 
-// The printer set to the paper of `setup`, painting from the paper's corner.
+// The printer set to the paper of `setup`. Pages count their positions from
+// the corner of the area the printer can reach, so a line at the top of the
+// page is not lost in the printer's unprintable border; a PDF file reaches
+// the paper's very corner.
 void PreparePrinter(QPrinter& printer, const PageSetup& setup)
 {
-    printer.setFullPage(true);
+    printer.setFullPage(false);
     printer.setPageLayout(PageLayoutOf(setup));
 }
 

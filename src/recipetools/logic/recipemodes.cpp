@@ -3,7 +3,7 @@
 RecipeCommandStates CommandStatesFor(const RecipeScreenState& state)
 {
     RecipeCommandStates on;
-    if (state.panelOpen || state.calculatorOpen || state.searchOpen)
+    if (state.panelOpen || state.calculatorOpen || state.searchOpen || state.printOpen)
         return on; // a panel over the screen holds every command until it closes
     const bool editing = state.mode == RecipeMode::Create || state.mode == RecipeMode::Modify;
     const bool shown = state.recipeShown
@@ -19,6 +19,7 @@ RecipeCommandStates CommandStatesFor(const RecipeScreenState& state)
     on.print = shown;
     on.calculate = shown;
     on.search = true;
+    on.worksheet = true;
     // Copy and export work on a viewed recipe (copy also once a modified one
     // has changes); import only on a new one.
     on.copy = shown && (state.mode == RecipeMode::View || state.recipeChanged);

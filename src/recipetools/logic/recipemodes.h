@@ -17,6 +17,7 @@ struct RecipeScreenState {
     bool panelOpen = false;             // the rename panel
     bool calculatorOpen = false;        // the amount calculator
     bool searchOpen = false;            // a search panel
+    bool printOpen = false;             // the print options panel
     bool cookbookHasRecipes = false;    // any slot of the cookbook is used
 };
 
@@ -35,6 +36,7 @@ struct RecipeCommandStates {
     bool exportRecipe = false;
     bool importRecipe = false;
     bool cookbookMenus = false;         // "Select Cook&book" and "Cookbook &Titles"
+    bool worksheet = false;             // "Print &Worksheet"
 
     bool operator==(const RecipeCommandStates&) const = default;
 };

@@ -91,6 +91,7 @@ Form5::Form5(Dialogs& dialogs, QWidget* parent) : ActivityWindow(parent), dialog
     calculator_->hide();
     buildSearchPanels(central);
     titlesPanel_ = new CookbookTitlesPanel(central);
+    buildPrintPanel(central);
 
     panelColors_ = new PanelColors(dialogs_, kForm5PanelColor, statusBar_, this);
     setPanelColors(panelColors_);
@@ -101,6 +102,8 @@ Form5::Form5(Dialogs& dialogs, QWidget* parent) : ActivityWindow(parent), dialog
     panelColors_->addPanel(renamePanel_);
     panelColors_->addPanel(calculator_);
     panelColors_->addPanel(titlesPanel_);
+    for (QWidget* panel : printPanels())
+        panelColors_->addPanel(panel);
     panelColors_->applyStored();
     connect(findChild<QAction*>(QStringLiteral("mPanelColor")), &QAction::triggered, panelColors_,
             &PanelColors::choosePanelColor);
@@ -527,9 +530,10 @@ void Form5::applyCommandStates()
     fields_->typeList()->setEnabled(!state_.calculatorOpen && !state_.searchOpen);
     fields_->pickList()->setEnabled(!state_.calculatorOpen && !state_.searchOpen);
     set("mExit", !state_.panelOpen);
+    set("mPrint", on.print);
+    set("mWorksheet", on.worksheet);
     // Tools that come with later screens stay off until they exist.
-    for (const char* later : {"mPrint", "mWorksheet", "mSpelling", "mCopy", "mExport", "mImport", "mBackup",
-                              "mRestore"})
+    for (const char* later : {"mSpelling", "mCopy", "mExport", "mImport", "mBackup", "mRestore"})
         set(later, false);
 }
 

@@ -14,7 +14,13 @@
 #include <array>
 #include <optional>
 
+class AdditionalRecipesPanel;
 class CalculatorPanel;
+class Clock;
+class PageBuilder;
+class PrintOptionsPanel;
+class RecipePrintOptions;
+struct PrintedRecipe;
 class IngredientSearchPanel;
 class NameSearchPanel;
 class SearchOptionsPanel;
@@ -53,6 +59,11 @@ public:
     const std::array<QString, kRecipeRows>& amountWorkList() const { return amountWorkList_; }
     bool recipeChanged() const { return state_.recipeChanged; }
     RecipeFieldsPanel* fieldsPanel() const { return fields_; }
+    PrintOptionsPanel* printPanel() const { return printPanel_; }
+    RecipePrintOptions* printOptions() const { return printOptions_; }
+    AdditionalRecipesPanel* additionalRecipesPanel() const { return additionalRecipes_; }
+    // Where the printout's date comes from; the system clock unless a test says.
+    void setClock(const Clock& clock) { clock_ = &clock; }
 
 protected:
     bool readyToClose() override;
@@ -103,6 +114,15 @@ private:
     void closeSearch();
     void viewFoundRecipe(const std::optional<SearchHit>& hit);
 
+    // Printing (form5print.cpp).
+    void buildPrintPanel(QWidget* area);
+    QList<QWidget*> printPanels() const;
+    void openPrintPanel(bool worksheet);
+    void leavePrintOptions();
+    void openAdditionalRecipes();
+    PrintedRecipe printedRecipe() const;
+    void composePrintout(PageBuilder& page);
+
     // Fields.
     bool fieldEntryAllowed(QWidget* field, Qt::FocusReason reason);
     void nameEnterPressed();
@@ -128,6 +148,10 @@ private:
     NameSearchPanel* nameSearch_ = nullptr;
     IngredientSearchPanel* ingredientSearch_ = nullptr;
     CookbookTitlesPanel* titlesPanel_ = nullptr;
+    PrintOptionsPanel* printPanel_ = nullptr;
+    RecipePrintOptions* printOptions_ = nullptr;
+    AdditionalRecipesPanel* additionalRecipes_ = nullptr;
+    const Clock* clock_ = nullptr;
     ScreenStatusBar* statusBar_ = nullptr;
     PanelColors* panelColors_ = nullptr;
     QLabel* titleStrip_ = nullptr;           // SSPanel4
@@ -148,4 +172,6 @@ private:
     bool saveRefused_ = false;               // a save was refused: the action stops
     bool savingRecordOnly_ = false;          // the rename's save question saves the record alone
     bool skipSaveQuestion_ = false;          // a caller that knows the record number (SaveAnswer -333)
+    bool worksheet_ = false;                 // the print panel composes the blank worksheet
+    bool additionalActive_ = false;          // AdditionalRecipesActive
 };

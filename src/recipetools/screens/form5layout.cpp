@@ -3,6 +3,7 @@
 
 #include "common/widgets/commandbutton.h"
 #include "cookbook/logic/cookbookselection.h"
+#include "shell/screens/printoptionspanel.h"
 #include "shell/screens/screentoolbars.h"
 
 #include <QAction>
@@ -145,4 +146,6 @@ void Form5::resizeEvent(QResizeEvent* event)
         oneRow += button->sizeHint().width() + commandGrid_->horizontalSpacing();
     const int available = centralWidget()->width() - 40;
     arrangeCommandButtons(available >= oneRow ? int(commandButtons_.size()) : int(commandButtons_.size()) / 2);
+    // The print options panel covers the whole screen below the toolbar.
+    printPanel_->setGeometry(centralWidget()->rect());
 }

@@ -2,6 +2,7 @@
 
 #include "shell/screens/pagepainter.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -78,6 +79,7 @@ PagePreview::PagePreview(QWidget* parent) : QWidget(parent)
     scroll_->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     view_ = new PageView(scroll_);
     scroll_->setWidget(view_);
+    scroll_->viewport()->installEventFilter(this);
     layout->addWidget(scroll_, 1);
     connect(previous_, &QPushButton::clicked, this, [this] { showPage(page_ - 1); });
     connect(next_, &QPushButton::clicked, this, [this] { showPage(page_ + 1); });
@@ -111,10 +113,11 @@ void PagePreview::setLarge(bool large)
     refresh();
 }
 
-void PagePreview::resizeEvent(QResizeEvent* event)
+bool PagePreview::eventFilter(QObject* watched, QEvent* event)
 {
-    QWidget::resizeEvent(event);
-    refresh();
+    if (watched == scroll_->viewport() && event->type() == QEvent::Resize)
+        refresh();
+    return QWidget::eventFilter(watched, event);
 }
 
 void PagePreview::refresh()

@@ -35,7 +35,8 @@ public:
     QImage renderedPage() const;
 
 protected:
-    void resizeEvent(QResizeEvent* event) override;
+    // The page is sized to the scroll area's viewport whenever that changes.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void refresh();
