@@ -19,6 +19,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSignalSpy>
 
 namespace {
 
@@ -252,4 +253,31 @@ TEST_F(Form5PrintTest, ARecipePrintedToPdfHoldsEveryPartOfIt)
     for (const char* part : {"Breads", "Apple Bread", "Ingredients:", "1 1/2", "cups", "flour", "salt", "sugar",
                              "Directions:", "Mix well and bake."})
         EXPECT_TRUE(text.contains(part)) << part << "\n" << text.toStdString();
+}
+
+TEST(RecipePrintOptions, APictureIsOfferedTickedOnFullPagesAndClearedOnHalfPages)
+{
+    RecipePrintOptions options;
+    auto* picture = options.findChild<QCheckBox*>("PrintPicture");
+    options.setPictureAvailable(true);
+    EXPECT_TRUE(picture->isEnabled());
+    EXPECT_TRUE(options.printPicture());
+    QSignalSpy changed(&options, &RecipePrintOptions::changed);
+    options.findChild<QRadioButton*>("PrintLayout_3")->click();
+    EXPECT_FALSE(picture->isEnabled());
+    EXPECT_FALSE(picture->isChecked());
+    EXPECT_FALSE(options.printPicture());
+    EXPECT_EQ(changed.count(), 1);
+    // Back on a full page it is offered again, for the user to tick.
+    options.findChild<QRadioButton*>("PrintLayout_2")->click();
+    EXPECT_TRUE(picture->isEnabled());
+    EXPECT_FALSE(picture->isChecked());
+    picture->click();
+    EXPECT_TRUE(options.printPicture());
+    EXPECT_EQ(changed.count(), 3);
+    // A fresh load starts on the two-column page with the picture ticked.
+    options.findChild<QRadioButton*>("PrintLayout_4")->click();
+    options.reset();
+    EXPECT_EQ(options.layout(), PrintLayout::TwoColumn);
+    EXPECT_TRUE(options.printPicture());
 }

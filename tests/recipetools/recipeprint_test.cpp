@@ -8,25 +8,17 @@
 #include "common/dates.h"
 #include "cookbook/logic/cookbookfiles.h"
 #include "shell/logic/pagebuilder.h"
-#include "shell/logic/textmeasurer.h"
 
+#include "fixed_measurer.h"
 #include "temp_program_folder.h"
 
 #include <QStringList>
 #include <gtest/gtest.h>
 #include <algorithm>
+#include <random>
 #include <ostream>
 
 namespace {
-
-class FakeMeasurer final : public TextMeasurer {
-public:
-    double textWidth(const TextFont& font, const QString& text) const override
-    {
-        return 10 * font.size * double(text.size());
-    }
-    double lineHeight(const TextFont& font) const override { return 20 * font.size + 40; }
-};
 
 double Width(double size, const QString& text)
 {
@@ -46,7 +38,7 @@ const double kTitleLine = Line(14);
 const QDate kToday(2024, 3, 5);
 
 struct Fixture {
-    FakeMeasurer measurer;
+    FixedMeasurer measurer;
     PageBuilder page;
     explicit Fixture(const PageSetup& setup = {}) : page(measurer, setup) {}
     const PageDocument& doc() const { return page.document(); }
@@ -1042,3 +1034,24 @@ TEST(RecipePrintWorksheet, IndentDoesNotLeakIntoTheNextRecipePage)
 }
 
 } // namespace
+
+TEST(RecipePrintAdditional, DamagedOrShortCookbookFilesPrintWhatTheyHold)
+{
+    TempProgramFolder folder;
+    Queue queue;
+    queue[0] = AdditionalRecipe{RecipeType::Breads, 1, "Rolls"};
+    queue[1] = AdditionalRecipe{RecipeType::Breads, 32000, "Far Away"};
+    std::mt19937 random(20261121);
+    for (int round = 0; round < 40; ++round) {
+        QByteArray bytes(int(random() % 6000), '\0');
+        for (char& byte : bytes)
+            byte = char(random() % 256);
+        folder.writeBytes(RecipeFileName(1), bytes);
+        folder.writeBytes(ExtraFileName(1), bytes.left(int(random() % 300)));
+        Fixture f;
+        ComposeAdditionalPages(f.page, 1, queue, PrintSettings{}, kToday);
+        ASSERT_EQ(f.doc().pageCount(), 1);
+        EXPECT_NE(f.doc().pages[0].findText("Rolls"), nullptr);
+        EXPECT_NE(f.doc().pages[0].findText("Far Away"), nullptr);
+    }
+}

@@ -106,6 +106,11 @@ TEST_F(PanelFixture, FontDialogIsPresetFromPrintFontAndItsChoiceRecomposes)
     EXPECT_EQ(PrintFont(), chosen);
     EXPECT_EQ(field("PrinterFontName"), QStringLiteral("Liberation Sans"));
     EXPECT_EQ(field("PrinterFontSize"), QStringLiteral("16"));
+    const QLabel* sample = panel->findChild<QLabel*>(QStringLiteral("FontSample"));
+    EXPECT_EQ(sample->font().family(), QStringLiteral("Liberation Sans"));
+    EXPECT_TRUE(sample->font().bold());
+    EXPECT_TRUE(sample->font().underline());
+    EXPECT_TRUE(sample->styleSheet().contains(QStringLiteral("#ff0000"))) << "COLORREF 255 is red";
     EXPECT_EQ(compositions, 2);
     EXPECT_EQ(panel->document().pages[0].texts().at(0).font, chosen);
 }

@@ -1,6 +1,7 @@
 #include "shell/screens/printoptionspanel.h"
 
 #include "common/dialogs.h"
+#include "common/widgets/qtcolors.h"
 #include "shell/logic/pagebuilder.h"
 #include "shell/logic/printfont.h"
 #include "shell/screens/fontmeasurer.h"
@@ -102,8 +103,6 @@ QWidget* PrintOptionsPanel::buildFontFrame()
     sample_->setObjectName(QStringLiteral("FontSample"));
     sample_->setAlignment(Qt::AlignCenter);
     sample_->setMinimumHeight(40);
-    sample_->setAutoFillBackground(true);
-    sample_->setStyleSheet(QStringLiteral("background: white"));
     fontName_ = new QLineEdit(frame);
     fontName_->setObjectName(QStringLiteral("PrinterFontName"));
     fontSize_ = new QLineEdit(frame);
@@ -177,6 +176,7 @@ void PrintOptionsPanel::showFont()
     QFont sample = QFontOf(font);
     sample.setPointSizeF(qMin(font.size, kLargestSampleSize));
     sample_->setFont(sample);
+    sample_->setStyleSheet(QStringLiteral("background: white; color: %1").arg(ColorFromColorref(font.color).name()));
     fontName_->setText(font.name);
     fontSize_->setText(QString::number(font.size));
 }
