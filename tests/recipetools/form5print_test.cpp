@@ -249,6 +249,8 @@ TEST_F(Form5PrintTest, ARecipePrintedToPdfHoldsEveryPartOfIt)
     const QString pdf = folder.filePath("Apple Bread.pdf");
     dialogs.expectPrint(pdf);
     panel(*form)->command(PrintOptionsPanel::kPrint)->click();
+    ASSERT_EQ(dialogs.printJobs().size(), 1);
+    EXPECT_EQ(dialogs.printJobs()[0].title, "Apple Bread");
     const QString text = PdfText(pdf);
     for (const char* part : {"Breads", "Apple Bread", "Ingredients:", "1 1/2", "cups", "flour", "salt", "sugar",
                              "Directions:", "Mix well and bake."})

@@ -9,6 +9,7 @@
 #include <QColorDialog>
 #include <QComboBox>
 #include <QDesktopServices>
+#include <QDir>
 #include <QDialogButtonBox>
 #include <QFontDialog>
 #include <QFormLayout>
@@ -18,6 +19,7 @@
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPrinterInfo>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -84,11 +86,14 @@ public:
         layout->addWidget(fonts_);
         auto* colorRow = new QFormLayout;
         colors_ = new QComboBox(this);
+        // The sixteen colours of the classic palette, by their usual names.
+        const char* const names[16] = {"Black",      "Navy",    "Green",   "Teal",   "Maroon", "Purple",
+                                       "Olive",      "Silver",  "Gray",    "Blue",   "Lime",   "Aqua",
+                                       "Red",        "Fuchsia", "Yellow",  "White"};
         for (int index = 0; index < 16; ++index) {
-            const QColor color = ColorFromColorref(QBColor(index));
             QPixmap swatch(24, 12);
-            swatch.fill(color);
-            colors_->addItem(QIcon(swatch), color.name(), QBColor(index));
+            swatch.fill(ColorFromColorref(QBColor(index)));
+            colors_->addItem(QIcon(swatch), QString::fromLatin1(names[index]), QBColor(index));
         }
         const int current = colors_->findData(initial.color);
         if (current < 0)
@@ -182,6 +187,10 @@ bool QtDialogs::print(const PrintJob& job)
     QPrinter printer(QPrinter::HighResolution);
     PreparePrinter(printer, job.setup);
     printer.setDocName(job.title);
+    // With no printer installed, a PDF file is the only way out: offer one
+    // named after the document in the home folder.
+    if (QPrinterInfo::availablePrinters().isEmpty())
+        printer.setOutputFileName(QDir::home().filePath(job.title + QStringLiteral(".pdf")));
     QPrintDialog dialog(&printer, QApplication::activeWindow());
     dialog.setMinMax(1, qMax(1, job.pageCount));
     if (dialog.exec() != QDialog::Accepted)

@@ -49,8 +49,8 @@ void Form5::buildMenus()
     connect(AddCommand(recipe, "mRename", QStringLiteral("Change Recipe &Name")), &QAction::triggered, this,
             &Form5::openRename);
     recipe->addSeparator();
-    // The tools below come with their own screens and panels; until then
-    // their entries stay disabled.
+    // Spelling, copy, export and import come with panels of their own; until
+    // then their entries stay disabled.
     AddCommand(recipe, "mCalculate", QStringLiteral("C&alculate Amounts"));
     AddCommand(recipe, "mSearch", QStringLiteral("Searc&h"));
     AddCommand(recipe, "mSpelling", QStringLiteral("S&pelling Check"));

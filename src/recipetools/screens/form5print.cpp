@@ -76,6 +76,7 @@ void Form5::openPrintPanel(bool worksheet)
     statusBar_->setActivity(worksheet ? QStringLiteral("Print Worksheet") : QStringLiteral("Print Options"));
     printOptions_->setPictureAvailable(!worksheet && !picturePath_.isEmpty());
     printOptions_->setWorksheet(worksheet);
+    printPanel_->setDocumentName(worksheet ? QStringLiteral("Recipe WorkSheet") : fields_->pickList()->currentText());
     printPanel_->setGeometry(centralWidget()->rect());
     printPanel_->open();
 }

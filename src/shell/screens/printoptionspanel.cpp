@@ -219,7 +219,7 @@ void PrintOptionsPanel::printDocument()
 {
     // A printer that fails stops the command; the panel stays as it is.
     const PageDocument document = this->document();
-    dialogs_.print(PrintJob{window()->windowTitle(), pageSetup_, document.pageCount(),
+    dialogs_.print(PrintJob{documentName_, pageSetup_, document.pageCount(),
                             [&document](QPagedPaintDevice& device, int first, int last) {
                                 return RenderPages(device, document, first, last);
                             }});

@@ -31,6 +31,9 @@ public:
                       int guideLineSlot, QWidget* parent = nullptr);
 
     void setComposer(Composer composer) { composer_ = std::move(composer); }
+    // The name the printed document goes by: the print queue's job name, and
+    // the file name offered for a PDF.
+    void setDocumentName(const QString& name) { documentName_ = name; }
     // A group of the screen's own options, placed under the panel's.
     void addOptionGroup(QWidget* group);
 
@@ -71,6 +74,7 @@ private:
 
     Dialogs& dialogs_;
     QString testLine_;
+    QString documentName_;
     Composer composer_;
     PageSetup pageSetup_;
     PagePreview* preview_ = nullptr;
