@@ -1,6 +1,7 @@
 #include "common/widgets/qtdialogs.h"
 
 #include "common/widgets/qtcolors.h"
+#include "common/widgets/qtfonts.h"
 #include "common/widgets/qtpagesetup.h"
 
 #include "common/colors.h"
@@ -76,13 +77,7 @@ public:
         fonts_ = new QFontDialog(this);
         fonts_->setWindowFlags(Qt::Widget);
         fonts_->setOptions(QFontDialog::NoButtons | QFontDialog::DontUseNativeDialog);
-        QFont font(initial.name);
-        font.setPointSizeF(initial.size > 0 ? initial.size : 12);
-        font.setBold(initial.bold);
-        font.setItalic(initial.italic);
-        font.setUnderline(initial.underline);
-        font.setStrikeOut(initial.strikethru);
-        fonts_->setCurrentFont(font);
+        fonts_->setCurrentFont(QFontOf(initial));
         layout->addWidget(fonts_);
         auto* colorRow = new QFormLayout;
         colors_ = new QComboBox(this);
@@ -109,9 +104,7 @@ public:
 
     TextFont chosen() const
     {
-        const QFont font = fonts_->currentFont();
-        return TextFont{font.family(), font.pointSizeF(), font.bold(), font.italic(), font.underline(),
-                        font.strikeOut(), colors_->currentData().toInt()};
+        return TextFontOf(fonts_->currentFont(), colors_->currentData().toInt());
     }
 
 private:

@@ -349,13 +349,15 @@ void ComposeWorksheet(PageBuilder& page, const TextFont& font)
     StartDocument(page, font);
     page.setIndentLeft(400);
 
+    // Each part of the form stands after an empty line.
+    const auto part = [&page](const QString& text) {
+        EmptyLine(page);
+        page.printLine(text);
+    };
     WriteCentred(page, QStringLiteral("Recipe WorkSheet"));
-    EmptyLine(page);
-    page.printLine(QStringLiteral("Recipe Type:  ________________________________________________"));
-    EmptyLine(page);
-    page.printLine(QStringLiteral("Recipe Name: ________________________________________________"));
-    EmptyLine(page);
-    page.printLine(QStringLiteral("Ingredients:"));
+    part(QStringLiteral("Recipe Type:  ________________________________________________"));
+    part(QStringLiteral("Recipe Name: ________________________________________________"));
+    part(QStringLiteral("Ingredients:"));
     EmptyLine(page);
     for (int number = 1; number <= kRecipeRows; ++number) {
         page.printLine(RowNumberText(number)
@@ -363,15 +365,11 @@ void ComposeWorksheet(PageBuilder& page, const TextFont& font)
                            ". - Amt.: ______  Type: ____________  Ingredient: ______________________________________"));
         page.setCurrentY(page.currentY() + 100);
     }
-    EmptyLine(page);
-    page.printLine(QStringLiteral("Directions:"));
+    part(QStringLiteral("Directions:"));
     for (int line = 0; line < 10; ++line)
         EmptyLine(page);
-    EmptyLine(page);
-    page.printLine(QStringLiteral("Oven Temperature: _________________"));
-    EmptyLine(page);
-    page.printLine(QStringLiteral("Cooking Time: _____________________"));
-    EmptyLine(page);
-    page.printLine(QStringLiteral("Recipe Yield: ______________________"));
+    part(QStringLiteral("Oven Temperature: _________________"));
+    part(QStringLiteral("Cooking Time: _____________________"));
+    part(QStringLiteral("Recipe Yield: ______________________"));
     page.endDoc();
 }

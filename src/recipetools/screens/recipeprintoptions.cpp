@@ -14,6 +14,23 @@ bool IsFullPage(PrintLayout layout)
     return layout == PrintLayout::TwoColumn || layout == PrintLayout::OneColumn;
 }
 
+// A frame of option buttons numbered from `firstId`, each named by its number
+// after `name` ("PrintLayout_1").
+QGroupBox* MakeChoiceGroup(QWidget* parent, const QString& title, const QString& name, QButtonGroup* buttons,
+                          int firstId, const QStringList& captions)
+{
+    auto* group = new QGroupBox(title, parent);
+    group->setObjectName(name + QStringLiteral("Group"));
+    auto* column = new QVBoxLayout(group);
+    for (int index = 0; index < captions.size(); ++index) {
+        auto* option = new QRadioButton(captions[index], group);
+        option->setObjectName(QStringLiteral("%1_%2").arg(name).arg(firstId + index));
+        buttons->addButton(option, firstId + index);
+        column->addWidget(option);
+    }
+    return group;
+}
+
 } // namespace
 
 RecipePrintOptions::RecipePrintOptions(QWidget* parent) : QWidget(parent)
@@ -22,33 +39,19 @@ RecipePrintOptions::RecipePrintOptions(QWidget* parent) : QWidget(parent)
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
 
-    layoutGroup_ = new QGroupBox(QStringLiteral("Page Layout"), this);
-    layoutGroup_->setObjectName(QStringLiteral("PrintLayoutGroup"));
-    auto* layoutColumn = new QVBoxLayout(layoutGroup_);
     layouts_ = new QButtonGroup(this);
-    const QString layoutCaptions[] = {
-        QStringLiteral("Full Page Printout (2 Column Ingred.)"), QStringLiteral("Full Page Printout (1 Column Ingred.)"),
-        QStringLiteral("Top Half of Page Printout"), QStringLiteral("Bottom Half of Page Printout")};
-    for (int layout = 1; layout <= 4; ++layout) {
-        auto* option = new QRadioButton(layoutCaptions[layout - 1], layoutGroup_);
-        option->setObjectName(QStringLiteral("PrintLayout_%1").arg(layout));
-        layouts_->addButton(option, layout);
-        layoutColumn->addWidget(option);
-    }
+    layoutGroup_ = MakeChoiceGroup(this, QStringLiteral("Page Layout"), QStringLiteral("PrintLayout"), layouts_,
+                                  int(PrintLayout::TwoColumn),
+                                  {QStringLiteral("Full Page Printout (2 Column Ingred.)"),
+                                   QStringLiteral("Full Page Printout (1 Column Ingred.)"),
+                                   QStringLiteral("Top Half of Page Printout"),
+                                   QStringLiteral("Bottom Half of Page Printout")});
     column->addWidget(layoutGroup_);
-
-    formatGroup_ = new QGroupBox(QStringLiteral("Amount Format"), this);
-    formatGroup_->setObjectName(QStringLiteral("AmountFormatGroup"));
-    auto* formatColumn = new QVBoxLayout(formatGroup_);
     formats_ = new QButtonGroup(this);
-    const QString formatCaptions[] = {QStringLiteral(" Print Amounts as Fractions (1/4)"),
-                                      QStringLiteral("Print Amounts as Decimals (.25)")};
-    for (int format = 0; format <= 1; ++format) {
-        auto* option = new QRadioButton(formatCaptions[format], formatGroup_);
-        option->setObjectName(QStringLiteral("AmountFormat_%1").arg(format));
-        formats_->addButton(option, format);
-        formatColumn->addWidget(option);
-    }
+    formatGroup_ = MakeChoiceGroup(this, QStringLiteral("Amount Format"), QStringLiteral("AmountFormat"), formats_,
+                                  int(AmountFormat::Fractions),
+                                  {QStringLiteral(" Print Amounts as Fractions (1/4)"),
+                                   QStringLiteral("Print Amounts as Decimals (.25)")});
     column->addWidget(formatGroup_);
 
     picture_ = new QCheckBox(QStringLiteral("Print Picture"), this);

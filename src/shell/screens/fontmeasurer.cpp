@@ -1,5 +1,6 @@
 #include "shell/screens/fontmeasurer.h"
 
+#include "common/widgets/qtfonts.h"
 #include "shell/logic/pagebuilder.h"
 
 #include <QFontMetricsF>
@@ -26,20 +27,6 @@ QFontMetricsF MetricsOf(const TextFont& font)
 }
 
 } // namespace
-
-QFont QFontOf(const TextFont& font)
-{
-    QFont qfont(font.name);
-    qfont.setPointSizeF(font.size > 0 ? font.size : 1);
-    qfont.setBold(font.bold);
-    qfont.setItalic(font.italic);
-    qfont.setUnderline(font.underline);
-    qfont.setStrikeOut(font.strikethru);
-    // Measures must not depend on the screen's hinting.
-    qfont.setHintingPreference(QFont::PreferNoHinting);
-    qfont.setStyleStrategy(QFont::PreferOutline);
-    return qfont;
-}
 
 double FontMeasurer::textWidth(const TextFont& font, const QString& text) const
 {

@@ -4,13 +4,8 @@
 // whatever screen the program runs on.
 #include "shell/logic/textmeasurer.h"
 
-#include <QFont>
-
 class FontMeasurer final : public TextMeasurer {
 public:
     double textWidth(const TextFont& font, const QString& text) const override;
     double lineHeight(const TextFont& font) const override;
 };
-
-// The QFont of a TextFont at its point size.
-QFont QFontOf(const TextFont& font);

@@ -1,8 +1,8 @@
 #include "shell/screens/pagepainter.h"
 
 #include "common/widgets/qtcolors.h"
+#include "common/widgets/qtfonts.h"
 #include "shell/logic/pagebuilder.h"
-#include "shell/screens/fontmeasurer.h"
 
 #include <QFontMetricsF>
 #include <QPagedPaintDevice>

@@ -2,6 +2,7 @@
 
 #include "common/dialogs.h"
 #include "common/widgets/qtcolors.h"
+#include "common/widgets/qtfonts.h"
 #include "shell/logic/pagebuilder.h"
 #include "shell/logic/printfont.h"
 #include "shell/screens/fontmeasurer.h"
