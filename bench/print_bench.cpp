@@ -4,9 +4,9 @@
 #include "bench_main.h"
 
 #include "recipetools/logic/recipeprint.h"
-#include "shell/logic/pagebuilder.h"
-#include "shell/screens/fontmeasurer.h"
-#include "shell/screens/pagepainter.h"
+#include "print/logic/pagebuilder.h"
+#include "print/screens/fontmeasurer.h"
+#include "print/screens/pagepainter.h"
 
 #include <QApplication>
 

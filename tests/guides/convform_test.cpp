@@ -3,7 +3,7 @@
 // labels.
 #include "guides/screens/convform.h"
 #include "shell/logic/processvalues.h"
-#include "shell/logic/settingsslots.h"
+#include "shell/settings/settingsslots.h"
 #include "scripted_dialogs.h"
 #include "temp_program_folder.h"
 

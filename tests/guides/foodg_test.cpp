@@ -2,9 +2,9 @@
 // read-only grid, the column shares, the caption, the panel colour slot.
 #include "guides/screens/foodg.h"
 #include "shell/logic/processvalues.h"
-#include "shell/logic/settingsslots.h"
+#include "shell/settings/settingsslots.h"
 #include "shell/screens/screenmetrics.h"
-#include "shell/screens/screenstatusbar.h"
+#include "shell/kit/screenstatusbar.h"
 #include "shell/screens/startfrm.h"
 #include "foodguide_expected.h"
 #include "scripted_dialogs.h"

@@ -4,7 +4,7 @@
 #include "recipetools/screens/form5.h"
 #include "recipetools/screens/recipefieldspanel.h"
 #include "shell/logic/processvalues.h"
-#include "shell/logic/settingsslots.h"
+#include "shell/settings/settingsslots.h"
 #include "scripted_dialogs.h"
 #include "temp_program_folder.h"
 

@@ -4,7 +4,7 @@
 #include "recipetools/screens/form5.h"
 #include "recipetools/screens/recipefieldspanel.h"
 #include "shell/logic/processvalues.h"
-#include "shell/logic/settingsslots.h"
+#include "shell/settings/settingsslots.h"
 #include "shell/screens/screenmetrics.h"
 #include "shell/screens/startfrm.h"
 #include "recipe_samples.h"

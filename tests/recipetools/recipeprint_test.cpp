@@ -7,7 +7,7 @@
 
 #include "common/dates.h"
 #include "cookbook/logic/cookbookfiles.h"
-#include "shell/logic/pagebuilder.h"
+#include "print/logic/pagebuilder.h"
 
 #include "fixed_measurer.h"
 #include "temp_program_folder.h"

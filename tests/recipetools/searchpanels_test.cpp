@@ -6,7 +6,7 @@
 #include "recipetools/screens/searchoptionspanel.h"
 
 #include "cookbook/logic/cookbooknames.h"
-#include "shell/logic/settingsslots.h"
+#include "shell/settings/settingsslots.h"
 
 #include "search_cookbook.h"
 #include "temp_program_folder.h"

@@ -1,7 +1,7 @@
 // The first run: the delivered file set lands in a new program folder.
 #include "common/programfolder.h"
 #include "shell/logic/deliveredfiles.h"
-#include "shell/logic/settingsslots.h"
+#include "shell/settings/settingsslots.h"
 #include "temp_program_folder.h"
 
 #include <QDir>

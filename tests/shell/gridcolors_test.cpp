@@ -1,6 +1,6 @@
 // Grid background and text colour: the slot texts and how a grid shows them.
 #include "shell/logic/gridcolors.h"
-#include "shell/screens/gridcolors.h"
+#include "shell/kit/gridcolors.h"
 #include "temp_program_folder.h"
 
 #include <QImage>

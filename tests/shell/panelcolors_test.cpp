@@ -3,8 +3,8 @@
 #include "common/colors.h"
 #include "common/widgets/qtcolors.h"
 #include "shell/logic/processvalues.h"
-#include "shell/screens/panelcolors.h"
-#include "shell/screens/screenstatusbar.h"
+#include "shell/kit/panelcolors.h"
+#include "shell/kit/screenstatusbar.h"
 #include "scripted_dialogs.h"
 #include "temp_program_folder.h"
 

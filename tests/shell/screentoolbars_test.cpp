@@ -1,9 +1,9 @@
 // The status bar of an activity screen and the toolbars it restores.
 #include "common/widgets/twips.h"
 #include "shell/logic/processvalues.h"
-#include "shell/logic/settingsslots.h"
-#include "shell/screens/screenstatusbar.h"
-#include "shell/screens/screentoolbars.h"
+#include "shell/settings/settingsslots.h"
+#include "shell/kit/screenstatusbar.h"
+#include "shell/kit/screentoolbars.h"
 #include "temp_program_folder.h"
 
 #include <QAction>

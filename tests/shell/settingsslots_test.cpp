@@ -1,7 +1,7 @@
 // The settings files: slot forms byte for byte, defaults, files of any case.
 #include "common/randomaccessfile.h"
 #include "shell/logic/background.h"
-#include "shell/logic/settingsslots.h"
+#include "shell/settings/settingsslots.h"
 #include "temp_program_folder.h"
 
 #include <QFile>

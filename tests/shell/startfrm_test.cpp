@@ -1,10 +1,10 @@
 // The main screen, driven offscreen with scripted dialogs.
 #include "common/dates.h"
 #include "shell/logic/processvalues.h"
-#include "shell/logic/settingsslots.h"
+#include "shell/settings/settingsslots.h"
 #include "shell/screens/about1.h"
-#include "shell/screens/activitywindow.h"
-#include "shell/screens/helpwindow.h"
+#include "shell/kit/activitywindow.h"
+#include "shell/kit/helpwindow.h"
 #include "shell/screens/screenmetrics.h"
 #include "shell/screens/splash1.h"
 #include "shell/screens/startfrm.h"

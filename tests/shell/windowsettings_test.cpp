@@ -1,6 +1,6 @@
 // The main window's stored mode and size, and the screen size rules.
 #include "shell/logic/familyname.h"
-#include "shell/logic/settingsslots.h"
+#include "shell/settings/settingsslots.h"
 #include "shell/logic/windowsettings.h"
 #include "temp_program_folder.h"
 

@@ -2,7 +2,7 @@
 // A text measurer with round numbers, so tests compute expected positions by
 // hand: every character is 10 twips wide per point of size, and a line is 20
 // twips per point plus 40.
-#include "shell/logic/textmeasurer.h"
+#include "print/logic/textmeasurer.h"
 
 class FixedMeasurer final : public TextMeasurer {
 public:

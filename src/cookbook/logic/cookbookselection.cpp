@@ -2,7 +2,7 @@
 
 #include "common/numbertext.h"
 #include "cookbook/logic/cookbooknames.h"
-#include "shell/logic/settingsslots.h"
+#include "shell/settings/settingsslots.h"
 
 #include <cmath>
 

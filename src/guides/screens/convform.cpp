@@ -2,10 +2,10 @@
 
 #include "common/dialogs.h"
 #include "shell/logic/gridcolors.h"
-#include "shell/screens/gridcolors.h"
-#include "shell/screens/helpwindow.h"
-#include "shell/screens/panelcolors.h"
-#include "shell/screens/screenstatusbar.h"
+#include "shell/kit/gridcolors.h"
+#include "shell/kit/helpwindow.h"
+#include "shell/kit/panelcolors.h"
+#include "shell/kit/screenstatusbar.h"
 
 #include <QEvent>
 #include <QAbstractButton>

@@ -7,7 +7,7 @@
 // labels and its working state.
 #include "guides/logic/conversions.h"
 
-#include "shell/screens/activitywindow.h"
+#include "shell/kit/activitywindow.h"
 
 class Dialogs;
 class PanelColors;

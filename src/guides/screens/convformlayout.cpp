@@ -2,10 +2,10 @@
 #include "guides/screens/convform.h"
 
 #include "common/dialogs.h"
-#include "common/widgets/commandbutton.h"
+#include "shell/kit/commandbutton.h"
 #include "common/widgets/twips.h"
-#include "shell/screens/panelcolors.h"
-#include "shell/screens/screentoolbars.h"
+#include "shell/kit/panelcolors.h"
+#include "shell/kit/screentoolbars.h"
 
 #include <QAction>
 #include <QActionGroup>

@@ -1,12 +1,12 @@
 #include "guides/screens/foodg.h"
 
-#include "common/widgets/commandbutton.h"
+#include "shell/kit/commandbutton.h"
 #include "shell/logic/processvalues.h"
-#include "shell/screens/gridcolors.h"
-#include "shell/screens/helpwindow.h"
-#include "shell/screens/panelcolors.h"
-#include "shell/screens/screenstatusbar.h"
-#include "shell/screens/screentoolbars.h"
+#include "shell/kit/gridcolors.h"
+#include "shell/kit/helpwindow.h"
+#include "shell/kit/panelcolors.h"
+#include "shell/kit/screenstatusbar.h"
+#include "shell/kit/screentoolbars.h"
 
 #include <QAction>
 #include <QEvent>

@@ -4,7 +4,7 @@
 // by its "Options" menu entry, toolbar button and screen button.
 #include "guides/logic/foodguidepages.h"
 
-#include "shell/screens/activitywindow.h"
+#include "shell/kit/activitywindow.h"
 
 class Dialogs;
 class PanelColors;

@@ -3,7 +3,7 @@
 #include "common/dates.h"
 #include "cookbook/logic/cookbookfiles.h"
 #include "recipetools/logic/amountformat.h"
-#include "shell/logic/pagebuilder.h"
+#include "print/logic/pagebuilder.h"
 
 #include <QStringList>
 #include <algorithm>

@@ -2,7 +2,7 @@
 
 #include "cookbook/logic/cookbookfiles.h"
 #include "cookbook/logic/nameentry.h"
-#include "recipetools/screens/overlaypanel.h"
+#include "shell/kit/overlaypanel.h"
 
 #include <QComboBox>
 #include <QGridLayout>

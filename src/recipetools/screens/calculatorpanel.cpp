@@ -1,7 +1,7 @@
 #include "recipetools/screens/calculatorpanel.h"
 
 #include "recipetools/logic/amountcalculator.h"
-#include "recipetools/screens/overlaypanel.h"
+#include "shell/kit/overlaypanel.h"
 
 #include <QEvent>
 #include <QFormLayout>

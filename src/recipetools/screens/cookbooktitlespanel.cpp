@@ -2,7 +2,7 @@
 
 #include "cookbook/logic/cookbooknames.h"
 #include "cookbook/logic/cookbookselection.h"
-#include "recipetools/screens/overlaypanel.h"
+#include "shell/kit/overlaypanel.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>

@@ -9,10 +9,10 @@
 #include "recipetools/screens/recipefieldspanel.h"
 #include "recipetools/screens/renamepanel.h"
 #include "shell/logic/processvalues.h"
-#include "shell/screens/helpwindow.h"
-#include "shell/screens/panelcolors.h"
-#include "shell/screens/screenbusy.h"
-#include "shell/screens/screenstatusbar.h"
+#include "shell/kit/helpwindow.h"
+#include "shell/kit/panelcolors.h"
+#include "shell/kit/screenbusy.h"
+#include "shell/kit/screenstatusbar.h"
 
 #include <QAction>
 #include <QComboBox>

@@ -9,7 +9,7 @@
 #include "recipetools/logic/recipemodes.h"
 #include "recipetools/logic/recipesearch.h"
 
-#include "shell/screens/activitywindow.h"
+#include "shell/kit/activitywindow.h"
 
 #include <array>
 #include <optional>

@@ -6,7 +6,7 @@
 #include "recipetools/screens/cookbooktitlespanel.h"
 #include "recipetools/screens/recipefieldspanel.h"
 #include "shell/logic/processvalues.h"
-#include "shell/screens/screenstatusbar.h"
+#include "shell/kit/screenstatusbar.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,10 +1,10 @@
 // Form5's menus, command buttons and cookbook menu.
 #include "recipetools/screens/form5.h"
 
-#include "common/widgets/commandbutton.h"
+#include "shell/kit/commandbutton.h"
 #include "cookbook/logic/cookbookselection.h"
-#include "shell/screens/printoptionspanel.h"
-#include "shell/screens/screentoolbars.h"
+#include "print/screens/printoptionspanel.h"
+#include "shell/kit/screentoolbars.h"
 
 #include <QAction>
 #include <QGridLayout>

@@ -8,12 +8,12 @@
 #include "recipetools/screens/additionalrecipespanel.h"
 #include "recipetools/screens/recipefieldspanel.h"
 #include "recipetools/screens/recipeprintoptions.h"
-#include "shell/logic/guidelines.h"
-#include "shell/logic/pagebuilder.h"
-#include "shell/logic/printfont.h"
-#include "shell/screens/panelcolors.h"
-#include "shell/screens/printoptionspanel.h"
-#include "shell/screens/screenstatusbar.h"
+#include "print/logic/guidelines.h"
+#include "print/logic/pagebuilder.h"
+#include "print/logic/printfont.h"
+#include "shell/kit/panelcolors.h"
+#include "print/screens/printoptionspanel.h"
+#include "shell/kit/screenstatusbar.h"
 
 #include <QAction>
 #include <QComboBox>

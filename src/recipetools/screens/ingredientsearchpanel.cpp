@@ -1,7 +1,7 @@
 #include "recipetools/screens/ingredientsearchpanel.h"
 
 #include "cookbook/logic/cookbooknames.h"
-#include "recipetools/screens/overlaypanel.h"
+#include "shell/kit/overlaypanel.h"
 #include "recipetools/screens/searchresults.h"
 
 #include <QGridLayout>

@@ -1,6 +1,6 @@
 #include "recipetools/screens/namesearchpanel.h"
 
-#include "recipetools/screens/overlaypanel.h"
+#include "shell/kit/overlaypanel.h"
 #include "recipetools/screens/searchresults.h"
 
 #include <QEvent>

@@ -5,7 +5,7 @@
 #include "common/widgets/qtcolors.h"
 #include "cookbook/logic/cookbooknames.h"
 #include "recipetools/logic/amountformat.h"
-#include "recipetools/screens/droplist.h"
+#include "shell/kit/droplist.h"
 
 #include <QComboBox>
 #include <QEvent>

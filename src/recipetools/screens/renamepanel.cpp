@@ -1,7 +1,7 @@
 #include "recipetools/screens/renamepanel.h"
 
 #include "recipetools/logic/recipelifecycle.h"
-#include "recipetools/screens/overlaypanel.h"
+#include "shell/kit/overlaypanel.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>

@@ -1,6 +1,6 @@
 #include "recipetools/screens/searchoptionspanel.h"
 
-#include "recipetools/screens/overlaypanel.h"
+#include "shell/kit/overlaypanel.h"
 
 #include <QLabel>
 #include <QPushButton>

@@ -1,8 +1,8 @@
 #include "recipetools/screens/searchresults.h"
 
 #include "cookbook/logic/nameentry.h"
-#include "shell/screens/gridcolors.h"
-#include "shell/screens/screenbusy.h"
+#include "shell/kit/gridcolors.h"
+#include "shell/kit/screenbusy.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>

@@ -1,7 +1,7 @@
 #include "shell/logic/background.h"
 
 #include "common/numbertext.h"
-#include "shell/logic/settingsslots.h"
+#include "shell/settings/settingsslots.h"
 
 namespace {
 constexpr int kBackgroundSlot = 3;

@@ -1,7 +1,7 @@
 #include "shell/logic/deliveredfiles.h"
 
 #include "common/programfolder.h"
-#include "shell/logic/settingsslots.h"
+#include "shell/settings/settingsslots.h"
 
 #include <QDir>
 #include <QDirIterator>

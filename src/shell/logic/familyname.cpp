@@ -1,6 +1,6 @@
 #include "shell/logic/familyname.h"
 
-#include "shell/logic/settingsslots.h"
+#include "shell/settings/settingsslots.h"
 
 namespace {
 constexpr int kFamilyNameSlot = 1;

@@ -3,7 +3,7 @@
 // holds "Default" (leave the grid as it is), a colour number, or the name of
 // a picture beginning "WP" in any case, shown from that name plus ".jpg".
 // The text slot holds "Default" or a colour number.
-#include "shell/logic/settingsslots.h"
+#include "shell/settings/settingsslots.h"
 
 #include <QString>
 #include <optional>

@@ -1,7 +1,7 @@
 #pragma once
 // Panel colours: each screen keeps the colour of its panels in one settings
 // slot, as the word "Default" (the system's colour) or a COLORREF number.
-#include "shell/logic/settingsslots.h"
+#include "shell/settings/settingsslots.h"
 
 #include <QString>
 #include <optional>

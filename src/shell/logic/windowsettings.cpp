@@ -1,6 +1,6 @@
 #include "shell/logic/windowsettings.h"
 
-#include "shell/logic/settingsslots.h"
+#include "shell/settings/settingsslots.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "shell/screens/activityhost.h"
 
 #include "shell/logic/processvalues.h"
-#include "shell/screens/activitywindow.h"
+#include "shell/kit/activitywindow.h"
 
 #include <QAction>
 

@@ -5,8 +5,8 @@
 #include "common/programfolder.h"
 #include "common/widgets/qtcolors.h"
 #include "common/widgets/twips.h"
-#include "shell/screens/panelcolors.h"
-#include "shell/screens/screenbusy.h"
+#include "shell/kit/panelcolors.h"
+#include "shell/kit/screenbusy.h"
 
 #include <QImageReader>
 #include <QLabel>

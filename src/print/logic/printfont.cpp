@@ -1,0 +1,26 @@
+#include "print/logic/printfont.h"
+
+#include "print/logic/textmeasurer.h"
+
+#include <cmath>
+
+TextFont& PrintFont()
+{
+    static TextFont font;
+    return font;
+}
+
+int AutoSizeFontSize(const TextMeasurer& measurer, const TextFont& font, const QString& testLine, double pageWidth)
+{
+    // Sizes stay within what a font dialog offers, so a measure that never
+    // reaches the page cannot step for ever.
+    constexpr double kSmallest = 1;
+    constexpr double kLargest = 1638;
+    TextFont trial = font;
+    auto width = [&] { return measurer.textWidth(trial, testLine); };
+    while (width() < pageWidth && trial.size + 1 <= kLargest)
+        trial.size += 1;
+    while (width() > pageWidth && trial.size - 1 >= kSmallest)
+        trial.size -= 1;
+    return int(std::trunc(trial.size));
+}

@@ -1,0 +1,52 @@
+#include "shell/kit/helpwindow.h"
+
+#include "common/programfolder.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QPointer>
+
+namespace {
+QString TopicFile(int topic)
+{
+    return QDir(ProgramFolder()).filePath(QStringLiteral("Help/%1.html").arg(topic));
+}
+} // namespace
+
+HelpWindow::HelpWindow()
+{
+    setObjectName(QStringLiteral("HelpWindow"));
+    setWindowTitle(QStringLiteral("Brindlepot Help"));
+    setOpenLinks(true);
+    setAttribute(Qt::WA_QuitOnClose, false); // help never keeps the program running
+    resize(720, 560);
+}
+
+HelpWindow* HelpWindow::showTopic(int topic)
+{
+    static QPointer<HelpWindow> window;
+    if (!window) {
+        window = new HelpWindow;
+        if (const QWidget* active = QApplication::activeWindow())
+            window->move(active->geometry().center() - window->rect().center());
+    }
+    window->load(topic);
+    window->show();
+    window->raise();
+    window->activateWindow();
+    return window;
+}
+
+void HelpWindow::load(int topic)
+{
+    topic_ = topic;
+    const QString file = TopicFile(topic);
+    if (QFile::exists(file)) {
+        setSearchPaths({QFileInfo(file).path()});
+        setSource(QUrl::fromLocalFile(file));
+    } else {
+        setHtml(QStringLiteral("<h2>Brindlepot Help</h2><p>Help topic %1 is not installed in the "
+                               "program folder.</p>").arg(topic));
+    }
+}
