@@ -8,6 +8,7 @@
 #include "temp_program_folder.h"
 
 #include "common/widgets/twips.h"
+#include "raw_slots.h"
 
 #include <QAction>
 #include <QApplication>

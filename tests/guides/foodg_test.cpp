@@ -9,6 +9,7 @@
 #include "foodguide_expected.h"
 #include "scripted_dialogs.h"
 #include "temp_program_folder.h"
+#include "raw_slots.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,7 +1,9 @@
 // The guide line option: its slots, and the "Display Options" frame.
 #include "print/logic/guidelines.h"
 #include "print/screens/guidelineoptions.h"
+#include "shell/settings/settingsregistry.h"
 #include "temp_program_folder.h"
+#include "raw_slots.h"
 
 #include <QRadioButton>
 #include <QSignalSpy>
@@ -10,30 +12,33 @@
 
 TEST(GuideLineSlots, EachPrintingScreenHasItsSlotInGColor3)
 {
-    EXPECT_STREQ(kGuideLineFile.name, "GColor3.Fil");
-    EXPECT_EQ(kForm24GuideLineSlot, 28);
-    EXPECT_EQ(kForm5GuideLineSlot, 38);
-    EXPECT_EQ(kZcalandarGuideLineSlot, 42);
-    EXPECT_EQ(kShoplistGuideLineSlot, 50);
-    EXPECT_EQ(kWeightTrackerGuideLineSlot, 80);
+    const std::pair<SettingsSlot, int> rows[] = {
+        {Settings::Form24GuideLines, 28},    {Settings::Form5GuideLines, 38},
+        {Settings::ZcalandarGuideLines, 42}, {Settings::ShoplistGuideLines, 50},
+        {Settings::WeightTrackerGuideLines, 80},
+    };
+    for (const auto& [slot, number] : rows) {
+        EXPECT_STREQ(slot.file.name, "GColor3.Fil");
+        EXPECT_EQ(slot.number, number);
+    }
 }
 
 TEST(GuideLineSlots, EmptyReadsAsNoGuideLines)
 {
     TempProgramFolder folder;
-    EXPECT_EQ(ReadGuideLineOption(GColor3, 38), 0);
+    EXPECT_EQ(ReadGuideLineOption(RawSlot(GColor3, 38)), 0);
     WriteSlotText(GColor3, 38, u"1");
-    EXPECT_EQ(ReadGuideLineOption(GColor3, 38), 1);
+    EXPECT_EQ(ReadGuideLineOption(RawSlot(GColor3, 38)), 1);
     WriteSlotText(GColor3, 38, u"0");
-    EXPECT_EQ(ReadGuideLineOption(GColor3, 38), 0);
+    EXPECT_EQ(ReadGuideLineOption(RawSlot(GColor3, 38)), 0);
     WriteSlotText(GColor3, 38, u"7");
-    EXPECT_EQ(ReadGuideLineOption(GColor3, 38), 0) << "only option 1 shows guide lines";
+    EXPECT_EQ(ReadGuideLineOption(RawSlot(GColor3, 38)), 0) << "only option 1 shows guide lines";
 }
 
 TEST(GuideLineSlots, TheIndexIsWrittenAsText)
 {
     TempProgramFolder folder;
-    WriteGuideLineOption(GColor3, 42, 1);
+    WriteGuideLineOption(RawSlot(GColor3, 42), 1);
     QByteArray expected(42 * 20, '\0');
     expected[41 * 20] = 1;
     expected[41 * 20 + 2] = '1';
@@ -43,7 +48,7 @@ TEST(GuideLineSlots, TheIndexIsWrittenAsText)
 TEST(GuideLineOptions, FrameAndCaptions)
 {
     TempProgramFolder folder;
-    GuideLineOptions options(GColor3, kForm5GuideLineSlot);
+    GuideLineOptions options(Settings::Form5GuideLines);
     EXPECT_EQ(options.title(), "Display Options");
     EXPECT_EQ(options.option(0)->text(), "Do Not Display Guide Lines");
     EXPECT_EQ(options.option(1)->text(), "Display Guide Lines");
@@ -56,7 +61,7 @@ TEST(GuideLineOptions, LoadSelectsTheStoredOptionWithoutWritingIt)
     TempProgramFolder folder;
     WriteSlotText(GColor3, 50, u"1");
     const QByteArray before = folder.bytesOf("GColor3.Fil");
-    GuideLineOptions options(GColor3, kShoplistGuideLineSlot);
+    GuideLineOptions options(Settings::ShoplistGuideLines);
     QSignalSpy changes(&options, &GuideLineOptions::guideLinesChanged);
     options.load();
     EXPECT_TRUE(options.option(1)->isChecked());
@@ -69,7 +74,7 @@ TEST(GuideLineOptions, LoadSelectsTheStoredOptionWithoutWritingIt)
 TEST(GuideLineOptions, LoadOfAnEmptySlotSelectsNoGuideLinesAndWritesNothing)
 {
     TempProgramFolder folder;
-    GuideLineOptions options(GColor3, kForm24GuideLineSlot);
+    GuideLineOptions options(Settings::Form24GuideLines);
     options.load();
     EXPECT_TRUE(options.option(0)->isChecked());
     EXPECT_FALSE(options.guideLinesOn());
@@ -79,7 +84,7 @@ TEST(GuideLineOptions, LoadOfAnEmptySlotSelectsNoGuideLinesAndWritesNothing)
 TEST(GuideLineOptions, AClickWritesTheIndexAndSwitchesTheGuideLines)
 {
     TempProgramFolder folder;
-    GuideLineOptions options(GColor3, kWeightTrackerGuideLineSlot);
+    GuideLineOptions options(Settings::WeightTrackerGuideLines);
     options.load();
     options.show();
     QSignalSpy changes(&options, &GuideLineOptions::guideLinesChanged);

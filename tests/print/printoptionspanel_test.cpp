@@ -8,6 +8,7 @@
 #include "print/screens/pagepainter.h"
 #include "print/screens/pagepreview.h"
 #include "print/screens/printoptionspanel.h"
+#include "shell/settings/settingsregistry.h"
 
 #include "pdf_text.h"
 #include "scripted_dialogs.h"
@@ -39,7 +40,7 @@ struct PanelFixture : ::testing::Test {
     PanelFixture()
     {
         screen.resize(1000, 700);
-        panel = new PrintOptionsPanel(dialogs, kTestLine, GColor3, kForm5GuideLineSlot, &screen);
+        panel = new PrintOptionsPanel(dialogs, kTestLine, Settings::Form5GuideLines, &screen);
         panel->resize(1000, 700);
         panel->setComposer([this](PageBuilder& page) {
             ++compositions;
@@ -191,15 +192,39 @@ TEST_F(PanelFixture, ExitHidesThePanelAndTellsTheScreen)
     EXPECT_EQ(exited.count(), 1);
 }
 
+TEST_F(PanelFixture, ExitStoresTheFontWhereTheScreenKeepsIt)
+{
+    panel->setFontSlots({Settings::ZcalandarPrintFontName, Settings::ZcalandarPrintFontSize});
+    panel->open();
+    PrintFont().name = QStringLiteral("Arial");
+    PrintFont().size = 14.6;
+    panel->command(PrintOptionsPanel::kExitPrintOptions)->click();
+    // Tagged: kind 8 and the text with its length; kind 3 and a 32-bit integer.
+    QFile file(QStringLiteral("GColor4.Fil"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray bytes = file.readAll();
+    ASSERT_EQ(bytes.size(), 27 * 40);
+    EXPECT_EQ(bytes.mid(25 * 40, 9), QByteArray("\x08\x00\x05\x00" "Arial", 9));
+    EXPECT_EQ(bytes.mid(26 * 40, 6), QByteArray("\x03\x00\x0e\x00\x00\x00", 6));
+    EXPECT_EQ(bytes.left(25 * 40), QByteArray(25 * 40, '\0')) << "no other slot is written";
+}
+
+TEST_F(PanelFixture, ExitStoresNoFontForAScreenWithoutSlots)
+{
+    panel->open();
+    panel->command(PrintOptionsPanel::kExitPrintOptions)->click();
+    EXPECT_FALSE(QFile::exists(QStringLiteral("GColor4.Fil")));
+}
+
 TEST_F(PanelFixture, GuideLinesFollowTheStoredOptionAndTheUsersChoice)
 {
-    WriteGuideLineOption(GColor3, kForm5GuideLineSlot, 1);
+    WriteGuideLineOption(Settings::Form5GuideLines, 1);
     panel->open();
     EXPECT_TRUE(panel->preview()->guideLines());
     EXPECT_TRUE(panel->guideLineOptions()->option(1)->isChecked());
     panel->guideLineOptions()->option(0)->click();
     EXPECT_FALSE(panel->preview()->guideLines());
-    EXPECT_EQ(ReadGuideLineOption(GColor3, kForm5GuideLineSlot), 0);
+    EXPECT_EQ(ReadGuideLineOption(Settings::Form5GuideLines), 0);
 }
 
 TEST_F(PanelFixture, CopyCurrentPageCopiesThePageInViewAndSaysSo)

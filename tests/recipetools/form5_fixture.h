@@ -7,6 +7,7 @@
 #include "shell/settings/settingsslots.h"
 #include "scripted_dialogs.h"
 #include "temp_program_folder.h"
+#include "raw_slots.h"
 
 #include <QAction>
 #include <QComboBox>

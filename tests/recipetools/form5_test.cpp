@@ -11,6 +11,7 @@
 #include "scripted_dialogs.h"
 #include "temp_program_folder.h"
 #include "form5_fixture.h"
+#include "raw_slots.h"
 
 #include <QAction>
 #include <QApplication>

@@ -10,6 +10,7 @@
 
 #include "search_cookbook.h"
 #include "temp_program_folder.h"
+#include "raw_slots.h"
 
 #include <QApplication>
 #include <QFocusEvent>

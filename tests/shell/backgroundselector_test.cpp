@@ -14,6 +14,7 @@
 #include "shell/screens/startfrm.h"
 #include "scripted_dialogs.h"
 #include "temp_program_folder.h"
+#include "raw_slots.h"
 
 #include <QAction>
 #include <QApplication>

@@ -3,6 +3,7 @@
 #include "shell/logic/deliveredfiles.h"
 #include "shell/settings/settingsslots.h"
 #include "temp_program_folder.h"
+#include "raw_slots.h"
 
 #include <QDir>
 #include <QDirIterator>

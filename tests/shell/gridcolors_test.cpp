@@ -2,6 +2,7 @@
 #include "shell/logic/gridcolors.h"
 #include "shell/kit/gridcolors.h"
 #include "temp_program_folder.h"
+#include "raw_slots.h"
 
 #include <QImage>
 #include <QTableWidget>
@@ -59,7 +60,7 @@ TEST(GridColors, TheSharedPairIsGColor1Slots28And29)
     EXPECT_EQ(colors.kind, GridColors::Kind::Picture);
     EXPECT_EQ(colors.pictureFile, "WP5.jpg");
     EXPECT_EQ(colors.textColor, 65535);
-    EXPECT_EQ(ReadGridColors(GColor1, 71, 72), GridColors{}) << "a screen's own empty pair";
+    EXPECT_EQ(ReadGridColors(RawSlot(GColor1, 71), RawSlot(GColor1, 72)), GridColors{}) << "a screen's own empty pair";
 }
 
 TEST(ApplyGridColors, AColourBecomesTheCellBackground)

@@ -2,6 +2,7 @@
 #include "common/colors.h"
 #include "shell/logic/panelcolor.h"
 #include "temp_program_folder.h"
+#include "raw_slots.h"
 
 #include <QSet>
 #include <gtest/gtest.h>
@@ -25,7 +26,7 @@ QByteArray TextSlot(const QByteArray& text, int slotLength = 20)
 
 struct ScreenSlotRow {
     const char* screen;
-    PanelColorSlot slot;
+    SettingsSlot slot;
     const char* file;
     int number;
 };
@@ -35,35 +36,35 @@ struct ScreenSlotRow {
 TEST(PanelColorSlots, EachScreenHasItsSlot)
 {
     const ScreenSlotRow rows[] = {
-        {"Startfrm", kStartfrmPanelColor, "GColor1.Fil", 49},
-        {"Convform", kConvformPanelColor, "GColor1.Fil", 49},
-        {"Form5", kForm5PanelColor, "GColor2.Fil", 25},
-        {"Foodg", kFoodgPanelColor, "GColor2.Fil", 9},
-        {"Zcalandar", kZcalandarPanelColor, "GColor2.Fil", 22},
-        {"Shoplist", kShoplistPanelColor, "GColor1.Fil", 27},
-        {"Form24", kForm24PanelColor, "GColor1.Fil", 70},
-        {"WeightTracker", kWeightTrackerPanelColor, "GColor1.Fil", 80},
+        {"Startfrm", Settings::MainPanelColor, "GColor1.Fil", 49},
+        {"Convform", Settings::MainPanelColor, "GColor1.Fil", 49},
+        {"Form5", Settings::Form5PanelColor, "GColor2.Fil", 25},
+        {"Foodg", Settings::FoodgPanelColor, "GColor2.Fil", 9},
+        {"Zcalandar", Settings::ZcalandarPanelColor, "GColor2.Fil", 22},
+        {"Shoplist", Settings::ShoplistPanelColor, "GColor1.Fil", 27},
+        {"Form24", Settings::Form24PanelColor, "GColor1.Fil", 70},
+        {"WeightTracker", Settings::WeightTrackerPanelColor, "GColor1.Fil", 80},
     };
     for (const ScreenSlotRow& row : rows) {
         SCOPED_TRACE(row.screen);
         EXPECT_STREQ(row.slot.file.name, row.file);
         EXPECT_EQ(row.slot.file.slotLength, 20);
-        EXPECT_EQ(row.slot.slot, row.number);
+        EXPECT_EQ(row.slot.number, row.number);
     }
 }
 
 TEST(PanelColorSlots, DefaultAndEmptyMeanTheSystemColour)
 {
     TempProgramFolder folder;
-    EXPECT_EQ(ReadPanelColor(kForm5PanelColor), std::nullopt) << "a missing file";
+    EXPECT_EQ(ReadPanelColor(Settings::Form5PanelColor), std::nullopt) << "a missing file";
     WriteSlotText(GColor2, 25, u"Default");
-    EXPECT_EQ(ReadPanelColor(kForm5PanelColor), std::nullopt);
+    EXPECT_EQ(ReadPanelColor(Settings::Form5PanelColor), std::nullopt);
     WriteSlotText(GColor2, 25, u"");
-    EXPECT_EQ(ReadPanelColor(kForm5PanelColor), std::nullopt);
+    EXPECT_EQ(ReadPanelColor(Settings::Form5PanelColor), std::nullopt);
     WriteSlotText(GColor2, 25, u"12632256");
-    EXPECT_EQ(ReadPanelColor(kForm5PanelColor), 12632256);
+    EXPECT_EQ(ReadPanelColor(Settings::Form5PanelColor), 12632256);
     WriteSlotText(GColor2, 25, u" 255 ");
-    EXPECT_EQ(ReadPanelColor(kForm5PanelColor), 255);
+    EXPECT_EQ(ReadPanelColor(Settings::Form5PanelColor), 255);
 }
 
 TEST(PanelColorConflict, TheTextColourAndBothBluesAndRedsConflict)
@@ -81,10 +82,10 @@ TEST(PanelColorConflict, TheTextColourAndBothBluesAndRedsConflict)
 TEST(StorePanelColor, WritesTheNumberOrTheWordDefault)
 {
     TempProgramFolder folder;
-    EXPECT_EQ(StorePanelColor(kShoplistPanelColor, false, 12632256), "12632256");
+    EXPECT_EQ(StorePanelColor(Settings::ShoplistPanelColor, false, 12632256), "12632256");
     EXPECT_EQ(SlotBytes(folder.bytesOf("GColor1.Fil"), 27), TextSlot("12632256"));
     EXPECT_EQ(folder.bytesOf("GColor1.Fil").size(), 27 * 20);
-    EXPECT_EQ(StorePanelColor(kShoplistPanelColor, true, 12632256), "Default");
+    EXPECT_EQ(StorePanelColor(Settings::ShoplistPanelColor, true, 12632256), "Default");
     EXPECT_EQ(SlotBytes(folder.bytesOf("GColor1.Fil"), 27), TextSlot("Default"));
 }
 

@@ -7,6 +7,7 @@
 #include "shell/kit/screenstatusbar.h"
 #include "scripted_dialogs.h"
 #include "temp_program_folder.h"
+#include "raw_slots.h"
 
 #include <QApplication>
 #include <QFrame>
@@ -51,7 +52,7 @@ protected:
     // The colour panels of `screen` show, in COLORREF form.
     static qint32 Shown(const QWidget* panel) { return ColorrefFromColor(panel->palette().color(QPalette::Window)); }
 
-    std::unique_ptr<PanelColors> colorsFor(TestScreen& screen, const PanelColorSlot& slot = kShoplistPanelColor)
+    std::unique_ptr<PanelColors> colorsFor(TestScreen& screen, const SettingsSlot& slot = Settings::ShoplistPanelColor)
     {
         auto colors = std::make_unique<PanelColors>(dialogs, slot, screen.statusBar, nullptr);
         colors->addPanel(screen.outer);
@@ -371,7 +372,7 @@ TEST_F(PanelColorsTest, TheSystemColourIsStoredAsDefaultAndDefaultIsNoNewColour)
 TEST_F(PanelColorsTest, CancelInTheAllScreensQuestionChangesOnlyTheScreensOwnSlot)
 {
     TestScreen screen;
-    auto colors = colorsFor(screen, kForm5PanelColor);
+    auto colors = colorsFor(screen, Settings::Form5PanelColor);
     colors->applyStored();
     pick(*colors, kTeal);
     dialogs.expectMessage(kSaveTitle, kSaveText, Answer::Yes);
@@ -388,22 +389,22 @@ TEST_F(PanelColorsTest, CancelInTheAllScreensQuestionChangesOnlyTheScreensOwnSlo
 TEST_F(PanelColorsTest, YesInTheAllScreensQuestionWritesEveryScreenAndRemembersTheColour)
 {
     TestScreen screen;
-    auto colors = colorsFor(screen, kForm5PanelColor);
+    auto colors = colorsFor(screen, Settings::Form5PanelColor);
     colors->applyStored();
     pick(*colors, kTeal);
     dialogs.expectMessage(kSaveTitle, kSaveText, Answer::Yes);
     dialogs.expectMessage(kAllTitle, kAllText, Answer::Yes);
     colors->offerToStoreOnClose();
     EXPECT_EQ(Process().LastPanelColor, "8421376");
-    for (const PanelColorSlot& slot : {kStartfrmPanelColor, kForm5PanelColor, kFoodgPanelColor,
-                                       kZcalandarPanelColor, kShoplistPanelColor, kForm24PanelColor,
-                                       kWeightTrackerPanelColor})
-        EXPECT_EQ(ReadSlotText(slot.file, slot.slot), "8421376") << slot.file.name << " " << slot.slot;
+    for (const SettingsSlot& slot : {Settings::MainPanelColor, Settings::Form5PanelColor, Settings::FoodgPanelColor,
+                                       Settings::ZcalandarPanelColor, Settings::ShoplistPanelColor, Settings::Form24PanelColor,
+                                       Settings::WeightTrackerPanelColor})
+        EXPECT_EQ(ReadSlotText(slot.file, slot.number), "8421376") << slot.file.name << " " << slot.number;
     EXPECT_EQ(ReadSlotText(GColor3, 105), "8421376");
 
     // A screen opened afterwards shows the new colour.
     TestScreen next;
-    auto nextColors = colorsFor(next, kZcalandarPanelColor);
+    auto nextColors = colorsFor(next, Settings::ZcalandarPanelColor);
     nextColors->applyStored();
     expectAllPanels(next, kTeal);
 }

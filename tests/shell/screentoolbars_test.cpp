@@ -5,6 +5,7 @@
 #include "shell/kit/screenstatusbar.h"
 #include "shell/kit/screentoolbars.h"
 #include "temp_program_folder.h"
+#include "raw_slots.h"
 
 #include <QAction>
 #include <QLabel>
@@ -25,7 +26,7 @@ QLabel* Panel(ScreenStatusBar& bar, int number)
 
 // An activity screen as far as its toolbars go.
 struct ToolbarScreen {
-    explicit ToolbarScreen(int topToolbarSlot = kTopToolbarSlot)
+    explicit ToolbarScreen(const SettingsSlot& topToolbarSlot = Settings::TopToolbarFlag)
     {
         window.setStatusBar(statusBar);
         toolbars = new ScreenToolbars(&window, statusBar, topToolbarSlot);
@@ -163,13 +164,12 @@ TEST_F(ScreenToolbarsTest, WeightTrackerEmptiesSlot81Instead)
     WriteSlotText(GColor1, 55, u"99");
     WriteSlotText(GColor1, 81, u"99");
     Process().TopToolbarFlag = kTopToolbarHidden;
-    ToolbarScreen screen(kWeightTrackerTopToolbarSlot);
+    ToolbarScreen screen(Settings::WeightTrackerToolbarFlag);
     screen.toolbars->applyFlags();
     screen.window.show();
     QTest::mouseClick(Panel(*screen.statusBar, 2), Qt::LeftButton);
     EXPECT_EQ(ReadSlotText(GColor1, 81), "");
     EXPECT_EQ(ReadSlotText(GColor1, 55), "99");
-    EXPECT_EQ(kWeightTrackerTopToolbarSlot, 81);
 }
 
 TEST_F(ScreenToolbarsTest, RestoreSideToolbarsClickWrites0ToGQORB1Slot10AndHidesThePanel)

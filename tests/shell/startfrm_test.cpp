@@ -11,6 +11,7 @@
 #include "common/widgets/twips.h"
 #include "scripted_dialogs.h"
 #include "temp_program_folder.h"
+#include "raw_slots.h"
 
 #include <QAction>
 #include <QApplication>

@@ -3,6 +3,7 @@
 #include "shell/settings/settingsslots.h"
 #include "shell/logic/windowsettings.h"
 #include "temp_program_folder.h"
+#include "raw_slots.h"
 
 #include <gtest/gtest.h>
 

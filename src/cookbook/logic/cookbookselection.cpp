@@ -2,18 +2,15 @@
 
 #include "common/numbertext.h"
 #include "cookbook/logic/cookbooknames.h"
-#include "shell/settings/settingsslots.h"
+#include "shell/settings/settingsregistry.h"
 
 #include <cmath>
 
 namespace {
 
-constexpr int kCurrentCookbookSlot = 1;
-constexpr int kFirstTitleSlot = 2;
-
 // The cookbook menus open the settings file under this spelling; on a
 // case-sensitive file system the resolver lands it on an existing GColor4.Fil.
-constexpr SettingsSlotFile kCookbookMenuSettings{"Gcolor4.fil", GColor4.slotLength};
+constexpr const char* kCookbookMenuSpelling = "Gcolor4.fil";
 
 // Only blanks are trimmed, as the runtime's Trim does; a tab stays.
 QString TrimBlanks(const QString& text)
@@ -33,7 +30,7 @@ int ReadCurrentCookbook()
 {
     // The number goes into a 16-bit integer: rounded half to even, and a value
     // that overflows it is skipped, leaving the variable at 0.
-    const double value = Val(ReadSlotText(GColor4, kCurrentCookbookSlot));
+    const double value = Val(ReadSlotText(Settings::CurrentCookbook));
     if (!(value >= -32768.5 && value < 32767.5))
         return 0;
     return int(std::nearbyint(value));
@@ -41,7 +38,7 @@ int ReadCurrentCookbook()
 
 void WriteCurrentCookbook(int cookbook)
 {
-    WriteSlotText(kCookbookMenuSettings, kCurrentCookbookSlot, Str(cookbook));
+    WriteSlotText(UnderFileName(Settings::CurrentCookbook, kCookbookMenuSpelling), Str(cookbook));
 }
 
 QStringList ReadCookbookTitles()
@@ -49,7 +46,7 @@ QStringList ReadCookbookTitles()
     QStringList titles;
     titles.reserve(kCookbookCount);
     for (int i = 0; i < kCookbookCount; ++i)
-        titles.append(TrimBlanks(ReadSlotText(GColor4, kFirstTitleSlot + i)));
+        titles.append(TrimBlanks(ReadSlotText(Settings::CookbookTitles[i])));
     return titles;
 }
 
@@ -58,7 +55,7 @@ void WriteCookbookTitles(const QStringList& titles)
     // Written as typed (the fields take 30 characters); a missing title is
     // written as an empty text, so all eight slots are always written.
     for (int i = 0; i < kCookbookCount; ++i)
-        WriteSlotText(GColor4, kFirstTitleSlot + i, titles.value(i).left(kCookbookTitleLength));
+        WriteSlotText(Settings::CookbookTitles[i], titles.value(i).left(kCookbookTitleLength));
 }
 
 QString CookbookMenuCaption(int cookbook, const QString& title)

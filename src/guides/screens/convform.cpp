@@ -24,7 +24,7 @@ Convform::Convform(Dialogs& dialogs, QWidget* parent) : ActivityWindow(parent), 
     setAttribute(Qt::WA_DeleteOnClose);
     statusBar_ = new ScreenStatusBar(this);
     setStatusBar(statusBar_);
-    panelColors_ = new PanelColors(dialogs_, kConvformPanelColor, statusBar_, this);
+    panelColors_ = new PanelColors(dialogs_, Settings::MainPanelColor, statusBar_, this);
     setPanelColors(panelColors_);
     buildMenus();
     buildToolbars();

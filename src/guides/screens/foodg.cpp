@@ -103,7 +103,7 @@ Foodg::Foodg(Dialogs& dialogs, QWidget* parent) : ActivityWindow(parent), dialog
     layout->addWidget(grid_, 1);
     layout->addWidget(commands);
 
-    panelColors_ = new PanelColors(dialogs_, kFoodgPanelColor, statusBar_, this);
+    panelColors_ = new PanelColors(dialogs_, Settings::FoodgPanelColor, statusBar_, this);
     setPanelColors(panelColors_);
     panelColors_->addPanel(title_);
     panelColors_->addPanel(commands);

@@ -2,12 +2,12 @@
 
 #include "common/numbertext.h"
 
-int ReadGuideLineOption(const SettingsSlotFile& file, int slot)
+int ReadGuideLineOption(const SettingsSlot& slot)
 {
-    return Val(ReadSlotText(file, slot)) == kGuideLinesOn ? kGuideLinesOn : kGuideLinesOff;
+    return Val(ReadSlotText(slot)) == kGuideLinesOn ? kGuideLinesOn : kGuideLinesOff;
 }
 
-void WriteGuideLineOption(const SettingsSlotFile& file, int slot, int index)
+void WriteGuideLineOption(const SettingsSlot& slot, int index)
 {
-    WriteSlotText(file, slot, QString::number(index));
+    WriteSlotText(slot, QString::number(index));
 }

@@ -10,6 +10,13 @@ TextFont& PrintFont()
     return font;
 }
 
+bool StorePrintFont(const PrintFontSlots& where, const TextFont& font)
+{
+    const bool nameStored = WriteSlotTagged(where.name, font.name);
+    const bool sizeStored = WriteSlotTagged(where.size, qint32(std::trunc(font.size)));
+    return nameStored && sizeStored;
+}
+
 int AutoSizeFontSize(const TextMeasurer& measurer, const TextFont& font, const QString& testLine, double pageWidth)
 {
     // Sizes stay within what a font dialog offers, so a measure that never

@@ -5,8 +5,8 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-GuideLineOptions::GuideLineOptions(const SettingsSlotFile& file, int slot, QWidget* parent)
-    : QGroupBox(QStringLiteral("Display Options"), parent), file_(file), slot_(slot)
+GuideLineOptions::GuideLineOptions(const SettingsSlot& slot, QWidget* parent)
+    : QGroupBox(QStringLiteral("Display Options"), parent), slot_(slot)
 {
     setObjectName(QStringLiteral("DisplayOptions"));
     auto* layout = new QVBoxLayout(this);
@@ -24,7 +24,7 @@ GuideLineOptions::GuideLineOptions(const SettingsSlotFile& file, int slot, QWidg
 
 void GuideLineOptions::load()
 {
-    const int index = ReadGuideLineOption(file_, slot_);
+    const int index = ReadGuideLineOption(slot_);
     loading_ = true;
     options_[index]->setChecked(true);
     loading_ = false;
@@ -45,6 +45,6 @@ void GuideLineOptions::chosen(int index)
 {
     if (loading_)
         return;
-    WriteGuideLineOption(file_, slot_, index);
+    WriteGuideLineOption(slot_, index);
     emit guideLinesChanged(index == kGuideLinesOn);
 }

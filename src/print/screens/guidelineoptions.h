@@ -10,7 +10,7 @@ class QRadioButton;
 class GuideLineOptions final : public QGroupBox {
     Q_OBJECT
 public:
-    GuideLineOptions(const SettingsSlotFile& file, int slot, QWidget* parent = nullptr);
+    GuideLineOptions(const SettingsSlot& slot, QWidget* parent = nullptr);
 
     // Selects the stored option without writing it back, and tells it.
     void load();
@@ -26,8 +26,7 @@ signals:
 private:
     void chosen(int index);
 
-    SettingsSlotFile file_;
-    int slot_;
+    SettingsSlot slot_;
     QRadioButton* options_[2] = {};
     bool loading_ = false;  // set while load() selects: the choice is not written
 };

@@ -40,7 +40,7 @@ QString OrientationText(const PageSetup& setup)
 } // namespace
 
 PrintOptionsPanel::PrintOptionsPanel(Dialogs& dialogs, const QString& autoSizeTestLine,
-                                     const SettingsSlotFile& guideLineFile, int guideLineSlot, QWidget* parent)
+                                     const SettingsSlot& guideLineSlot, QWidget* parent)
     : QFrame(parent), dialogs_(dialogs), testLine_(autoSizeTestLine)
 {
     setObjectName(QStringLiteral("PrintOptions"));
@@ -84,7 +84,7 @@ PrintOptionsPanel::PrintOptionsPanel(Dialogs& dialogs, const QString& autoSizeTe
     }
     fontFrame_ = buildFontFrame();
     column->addWidget(fontFrame_);
-    guideLines_ = new GuideLineOptions(guideLineFile, guideLineSlot, side_);
+    guideLines_ = new GuideLineOptions(guideLineSlot, side_);
     connect(guideLines_, &GuideLineOptions::guideLinesChanged, preview_, &PagePreview::setGuideLines);
     column->addWidget(guideLines_);
     optionGroups_ = new QVBoxLayout;
@@ -206,6 +206,8 @@ void PrintOptionsPanel::exitPrintOptions()
 {
     if (preview_->large())
         toggleLarge();
+    if (fontSlots_)
+        StorePrintFont(*fontSlots_, PrintFont());
     hide();
     emit exited();
 }

@@ -6,10 +6,12 @@
 // guide line slot, and adds its own option groups.
 #include "common/pagesetup.h"
 #include "print/logic/pagedocument.h"
+#include "print/logic/printfont.h"
 #include "shell/settings/settingsslots.h"
 
 #include <QFrame>
 #include <functional>
+#include <optional>
 
 class Dialogs;
 class GuideLineOptions;
@@ -27,8 +29,8 @@ public:
     enum CommandIndex { kPrinterFont = 0, kPageSetup, kExitPrintOptions, kCopyCurrentPage, kPrint };
     using Composer = std::function<void(PageBuilder& page)>;
 
-    PrintOptionsPanel(Dialogs& dialogs, const QString& autoSizeTestLine, const SettingsSlotFile& guideLineFile,
-                      int guideLineSlot, QWidget* parent = nullptr);
+    PrintOptionsPanel(Dialogs& dialogs, const QString& autoSizeTestLine, const SettingsSlot& guideLineSlot,
+                      QWidget* parent = nullptr);
 
     void setComposer(Composer composer) { composer_ = std::move(composer); }
     // The name the printed document goes by: the print queue's job name, and
@@ -36,6 +38,9 @@ public:
     void setDocumentName(const QString& name) { documentName_ = name; }
     // A group of the screen's own options, placed under the panel's.
     void addOptionGroup(QWidget* group);
+    // The slots where "&Exit Print Options" stores the font's name and size,
+    // for the screens that keep them.
+    void setFontSlots(const PrintFontSlots& where) { fontSlots_ = where; }
 
     // Loads the guide line option, shows the font, composes and shows the panel.
     void open();
@@ -76,6 +81,7 @@ private:
     QString testLine_;
     QString documentName_;
     Composer composer_;
+    std::optional<PrintFontSlots> fontSlots_;
     PageSetup pageSetup_;
     PagePreview* preview_ = nullptr;
     QWidget* side_ = nullptr;

@@ -93,7 +93,7 @@ Form5::Form5(Dialogs& dialogs, QWidget* parent) : ActivityWindow(parent), dialog
     titlesPanel_ = new CookbookTitlesPanel(central);
     buildPrintPanel(central);
 
-    panelColors_ = new PanelColors(dialogs_, kForm5PanelColor, statusBar_, this);
+    panelColors_ = new PanelColors(dialogs_, Settings::Form5PanelColor, statusBar_, this);
     setPanelColors(panelColors_);
     panelColors_->addPanel(titleStrip_);
     panelColors_->addPanel(commands);

@@ -36,7 +36,7 @@ const Clock& SystemTime()
 void Form5::buildPrintPanel(QWidget* area)
 {
     clock_ = &SystemTime();
-    printPanel_ = new PrintOptionsPanel(dialogs_, kAutoSizeTestLine, kGuideLineFile, kForm5GuideLineSlot, area);
+    printPanel_ = new PrintOptionsPanel(dialogs_, kAutoSizeTestLine, Settings::Form5GuideLines, area);
     printOptions_ = new RecipePrintOptions;
     printPanel_->addOptionGroup(printOptions_);
     printPanel_->setComposer([this](PageBuilder& page) { composePrintout(page); });

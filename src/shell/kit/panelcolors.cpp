@@ -27,7 +27,7 @@ const Message kAllScreensQuestion{QStringLiteral("Complete Program Panel Color U
 
 } // namespace
 
-PanelColors::PanelColors(Dialogs& dialogs, const PanelColorSlot& slot, ScreenStatusBar* statusBar, QObject* parent)
+PanelColors::PanelColors(Dialogs& dialogs, const SettingsSlot& slot, ScreenStatusBar* statusBar, QObject* parent)
     : QObject(parent), dialogs_(dialogs), slot_(slot), statusBar_(statusBar), color_(systemColor())
 {
 }

@@ -16,7 +16,7 @@ class ScreenStatusBar;
 class PanelColors final : public QObject {
     Q_OBJECT
 public:
-    PanelColors(Dialogs& dialogs, const PanelColorSlot& slot, ScreenStatusBar* statusBar, QObject* parent);
+    PanelColors(Dialogs& dialogs, const SettingsSlot& slot, ScreenStatusBar* statusBar, QObject* parent);
 
     // A panel, frame or option group that takes the colour.
     void addPanel(QWidget* panel);
@@ -42,7 +42,7 @@ private:
     void paint(const QColor& color);
 
     Dialogs& dialogs_;
-    PanelColorSlot slot_;
+    SettingsSlot slot_;
     QPointer<ScreenStatusBar> statusBar_;
     QList<QPointer<QWidget>> panels_;
     QColor color_;

@@ -14,8 +14,8 @@ constexpr int kRaiseWithTopToolbarTwips = 160;
 constexpr int kRaiseWithoutTopToolbarTwips = 500;
 } // namespace
 
-ScreenToolbars::ScreenToolbars(QMainWindow* window, ScreenStatusBar* statusBar, int topToolbarSlot)
-    : QObject(window), window_(window), statusBar_(statusBar), topToolbarSlot_(topToolbarSlot)
+ScreenToolbars::ScreenToolbars(QMainWindow* window, ScreenStatusBar* statusBar, const SettingsSlot& topToolbarFlag)
+    : QObject(window), window_(window), statusBar_(statusBar), topToolbarFlag_(topToolbarFlag)
 {
     top_ = makeToolbar(QStringLiteral("Toolbar1"), Qt::TopToolBarArea);
     sides_.append(makeToolbar(QStringLiteral("Toolbar2"), Qt::LeftToolBarArea));
@@ -66,7 +66,7 @@ void ScreenToolbars::restoreTopToolbar()
     Process().TopToolbarFlag = 0;
     top_->show();
     QCoreApplication::processEvents();
-    WriteSlotText(GColor1, topToolbarSlot_, QString());
+    WriteSlotText(topToolbarFlag_, QString());
     if (statusBar_)
         statusBar_->showTopToolbarRestore(false);
     emit toolbarsRestored();
@@ -77,7 +77,7 @@ void ScreenToolbars::restoreSideToolbars()
     for (QToolBar* side : sides_)
         side->show();
     Process().SideToolbarsFlag = 0;
-    WriteSlotInteger(GQORB1, kSideToolbarsSlot, 0);
+    WriteSlotInteger(Settings::SideToolbarsFlag, 0);
     if (statusBar_)
         statusBar_->showSideToolbarsRestore(false);
     emit toolbarsRestored();

@@ -5,7 +5,7 @@
 //
 // A hidden toolbar is told by the process-wide flags (top 99, side 88): the
 // screen hides it on load and shows the status bar panel that restores it.
-#include "shell/settings/settingsslots.h"
+#include "shell/settings/settingsregistry.h"
 
 #include <QList>
 #include <QObject>
@@ -15,18 +15,15 @@ class QMainWindow;
 class QToolBar;
 class ScreenStatusBar;
 
-// The slot that a top toolbar restore empties, in GColor1.Fil.
-inline constexpr int kTopToolbarSlot = 55;
-inline constexpr int kWeightTrackerTopToolbarSlot = 81;
-// The side toolbar flag, GQORB1.Fil slot 10, written 0 by a restore.
-inline constexpr int kSideToolbarsSlot = 10;
-
 class ScreenToolbars final : public QObject {
     Q_OBJECT
 public:
     // Adds both toolbars to `window` and answers the restore panels of
     // `statusBar`.
-    ScreenToolbars(QMainWindow* window, ScreenStatusBar* statusBar, int topToolbarSlot = kTopToolbarSlot);
+    // `topToolbarFlag` is the slot a top toolbar restore empties (the weight
+    // tracker has a slot of its own).
+    ScreenToolbars(QMainWindow* window, ScreenStatusBar* statusBar,
+                   const SettingsSlot& topToolbarFlag = Settings::TopToolbarFlag);
 
     QToolBar* top() const { return top_; }
     QToolBar* side() const { return sides_.first(); }
@@ -54,7 +51,7 @@ private:
 
     QMainWindow* window_;
     QPointer<ScreenStatusBar> statusBar_;
-    int topToolbarSlot_;
+    SettingsSlot topToolbarFlag_;
     QToolBar* top_ = nullptr;
     QList<QToolBar*> sides_;
 };

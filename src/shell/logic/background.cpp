@@ -1,12 +1,7 @@
 #include "shell/logic/background.h"
 
 #include "common/numbertext.h"
-#include "shell/settings/settingsslots.h"
-
-namespace {
-constexpr int kBackgroundSlot = 3;
-constexpr int kLastPanelColorSlot = 49;
-}
+#include "shell/settings/settingsregistry.h"
 
 int Background::pictureNumber() const
 {
@@ -20,7 +15,7 @@ int Background::pictureNumber() const
 Background ReadStoredBackground()
 {
     Background background;
-    const TaggedValue stored = ReadSlotTagged(GQORB1, kBackgroundSlot);
+    const TaggedValue stored = ReadSlotTagged(Settings::Background);
     if (const auto* number = std::get_if<qint32>(&stored)) {
         background.color = *number;
     } else if (const auto* text = std::get_if<QString>(&stored)) {
@@ -45,19 +40,19 @@ void StoreBackground(const Background& background)
 {
     switch (background.kind) {
     case Background::Kind::Color:
-        WriteSlotTagged(GQORB1, kBackgroundSlot, background.color);
+        WriteSlotTagged(Settings::Background, background.color);
         return;
     case Background::Kind::Standard:
-        WriteSlotTagged(GQORB1, kBackgroundSlot, QStringLiteral("Def"));
+        WriteSlotTagged(Settings::Background, QStringLiteral("Def"));
         return;
     case Background::Kind::Picture:
-        WriteSlotTagged(GQORB1, kBackgroundSlot, background.picture);
+        WriteSlotTagged(Settings::Background, background.picture);
         return;
     }
 }
 
 QString ReadLastPanelColor()
 {
-    const QString stored = ReadSlotText(GColor1, kLastPanelColorSlot);
+    const QString stored = ReadSlotText(Settings::MainPanelColor);
     return stored.isEmpty() ? QStringLiteral("Default") : stored;
 }

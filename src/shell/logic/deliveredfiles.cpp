@@ -1,7 +1,7 @@
 #include "shell/logic/deliveredfiles.h"
 
 #include "common/programfolder.h"
-#include "shell/settings/settingsslots.h"
+#include "shell/settings/settingsregistry.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -10,7 +10,6 @@
 namespace {
 
 const QString kResourceRoot = QStringLiteral(":/delivered");
-constexpr int kCurrentCookbookSlot = 1;
 
 // Relative to the current folder.
 bool ExistsCaseBlind(const QString& relativePath)
@@ -45,7 +44,7 @@ int InstallDeliveredFiles(const QString& folder)
         }
     }
     if (!ExistsCaseBlind(QString::fromLatin1(GColor4.name))) {
-        if (WriteSlotText(GColor4, kCurrentCookbookSlot, u" 1"))
+        if (WriteSlotText(Settings::CurrentCookbook, u" 1"))
             ++made;
     }
     QDir::setCurrent(previous);

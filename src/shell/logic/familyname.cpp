@@ -1,20 +1,16 @@
 #include "shell/logic/familyname.h"
 
-#include "shell/settings/settingsslots.h"
-
-namespace {
-constexpr int kFamilyNameSlot = 1;
-}
+#include "shell/settings/settingsregistry.h"
 
 QString ReadFamilyName()
 {
-    return ReadSlotText(QORBNAME, kFamilyNameSlot);
+    return ReadSlotText(Settings::FamilyName);
 }
 
 QString WriteFamilyName(const QString& name)
 {
     const QString cut = name.left(kFamilyNameLength);
-    WriteSlotText(QORBNAME, kFamilyNameSlot, cut);
+    WriteSlotText(Settings::FamilyName, cut);
     return cut;
 }
 

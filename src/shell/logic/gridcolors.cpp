@@ -17,12 +17,12 @@ GridColors GridColorsOf(QStringView background, QStringView text)
     return colors;
 }
 
-GridColors ReadGridColors(const SettingsSlotFile& file, int backgroundSlot, int textSlot)
+GridColors ReadGridColors(const SettingsSlot& background, const SettingsSlot& text)
 {
-    return GridColorsOf(ReadSlotText(file, backgroundSlot), ReadSlotText(file, textSlot));
+    return GridColorsOf(ReadSlotText(background), ReadSlotText(text));
 }
 
 GridColors ReadSharedGridColors()
 {
-    return ReadGridColors(kSharedGridColorFile, kSharedGridBackgroundSlot, kSharedGridTextSlot);
+    return ReadGridColors(Settings::GridBackground, Settings::GridTextColor);
 }

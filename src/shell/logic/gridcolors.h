@@ -3,15 +3,10 @@
 // holds "Default" (leave the grid as it is), a colour number, or the name of
 // a picture beginning "WP" in any case, shown from that name plus ".jpg".
 // The text slot holds "Default" or a colour number.
-#include "shell/settings/settingsslots.h"
+#include "shell/settings/settingsregistry.h"
 
 #include <QString>
 #include <optional>
-
-// The pair that most grids share.
-inline constexpr SettingsSlotFile kSharedGridColorFile = GColor1;
-inline constexpr int kSharedGridBackgroundSlot = 28;
-inline constexpr int kSharedGridTextSlot = 29;
 
 struct GridColors {
     enum class Kind { Unchanged, Color, Picture };
@@ -24,5 +19,6 @@ struct GridColors {
 };
 
 GridColors GridColorsOf(QStringView background, QStringView text);
-GridColors ReadGridColors(const SettingsSlotFile& file, int backgroundSlot, int textSlot);
+GridColors ReadGridColors(const SettingsSlot& background, const SettingsSlot& text);
+// The pair that most grids share.
 GridColors ReadSharedGridColors();

@@ -3,28 +3,8 @@
 #include "common/colors.h"
 
 #include <QCoreApplication>
-#include <array>
-#include <span>
 
 namespace {
-
-// Every slot that the all-screens update writes, file by file. Some of them
-// no screen of this program reads; they are written all the same, as the
-// settings files have always carried them.
-struct AllScreensFile {
-    SettingsSlotFile file;
-    std::span<const int> slotNumbers;
-};
-
-constexpr int kGColor1Slots[] = {10, 11, 12, 13, 16, 17, 18, 22, 27, 32, 36, 38, 40, 49, 54, 56, 70, 80};
-constexpr int kGColor2Slots[] = {5, 9, 12, 16, 19, 20, 22, 25, 40};
-constexpr int kGColor3Slots[] = {8, 17, 91, 92, 100, 101, 102, 103, 104, 105};
-
-constexpr std::array kAllScreens = {
-    AllScreensFile{GColor1, kGColor1Slots},
-    AllScreensFile{GColor2, kGColor2Slots},
-    AllScreensFile{GColor3, kGColor3Slots},
-};
 
 // The palette colours that panels may not take: both blues and both reds
 // of the classic table are the text and title colours of the screens.
@@ -32,9 +12,9 @@ constexpr int kConflictIndexes[] = {1, 9, 4, 12};
 
 } // namespace
 
-std::optional<qint32> ReadPanelColor(const PanelColorSlot& slot)
+std::optional<qint32> ReadPanelColor(const SettingsSlot& slot)
 {
-    return ParseStoredColor(ReadSlotText(slot.file, slot.slot));
+    return ParseStoredColor(ReadSlotText(slot));
 }
 
 bool ColorConflicts(qint32 color, qint32 panelTextColor)
@@ -48,10 +28,10 @@ bool ColorConflicts(qint32 color, qint32 panelTextColor)
     return false;
 }
 
-QString StorePanelColor(const PanelColorSlot& slot, bool isDefault, qint32 color)
+QString StorePanelColor(const SettingsSlot& slot, bool isDefault, qint32 color)
 {
     const QString text = isDefault ? QString::fromLatin1(kDefaultColorText) : QString::number(color);
-    WriteSlotText(slot.file, slot.slot, text);
+    WriteSlotText(slot, text);
     return text;
 }
 
@@ -62,10 +42,12 @@ bool ShouldOfferToAllScreens(const QString& pendingColor, const QString& lastPan
 
 void WriteColorToAllScreens(const QString& color)
 {
-    for (const AllScreensFile& target : kAllScreens) {
-        for (const int slot : target.slotNumbers)
-            WriteSlotText(target.file, slot, color);
-        // Each write has closed its file; queued window events may run now.
-        QCoreApplication::processEvents();
+    const std::span<const SettingsSlot> targets = Settings::AllScreensColorSlots();
+    for (size_t i = 0; i < targets.size(); ++i) {
+        WriteSlotText(targets[i], color);
+        // Each write has closed its file; between two files queued window
+        // events may run.
+        if (i + 1 == targets.size() || !(targets[i + 1].file == targets[i].file))
+            QCoreApplication::processEvents();
     }
 }

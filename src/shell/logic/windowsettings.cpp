@@ -1,13 +1,10 @@
 #include "shell/logic/windowsettings.h"
 
-#include "shell/settings/settingsslots.h"
+#include "shell/settings/settingsregistry.h"
 
 #include <algorithm>
 
 namespace {
-constexpr int kModeSlot = 35;
-constexpr int kHeightSlot = 36;
-constexpr int kWidthSlot = 37;
 constexpr int kMinScreenWidth = 9945;
 constexpr int kMinScreenHeight = 7590;
 
@@ -20,9 +17,9 @@ qint16 ClampToInt16(int twips)
 StoredWindow ReadStoredWindow()
 {
     StoredWindow window;
-    window.windowed = ReadSlotText(GColor3, kModeSlot).startsWith(QLatin1String("Yes"));
-    window.height = ReadSlotInteger(GColor3, kHeightSlot);
-    window.width = ReadSlotInteger(GColor3, kWidthSlot);
+    window.windowed = ReadSlotText(Settings::WindowMode).startsWith(QLatin1String("Yes"));
+    window.height = ReadSlotInteger(Settings::WindowHeight);
+    window.width = ReadSlotInteger(Settings::WindowWidth);
     if (window.windowed) {
         window.height = std::max<qint16>(window.height, kMinWindowHeight);
         window.width = std::max<qint16>(window.width, kMinWindowWidth);
@@ -39,13 +36,13 @@ void StoreWindow(bool windowed, int heightTwips, int widthTwips)
 
 void WriteWindowMode(bool windowed)
 {
-    WriteSlotText(GColor3, kModeSlot, windowed ? u"Yes" : u"No");
+    WriteSlotText(Settings::WindowMode, windowed ? u"Yes" : u"No");
 }
 
 void WriteWindowSize(int heightTwips, int widthTwips)
 {
-    WriteSlotInteger(GColor3, kHeightSlot, ClampToInt16(heightTwips));
-    WriteSlotInteger(GColor3, kWidthSlot, ClampToInt16(widthTwips));
+    WriteSlotInteger(Settings::WindowHeight, ClampToInt16(heightTwips));
+    WriteSlotInteger(Settings::WindowWidth, ClampToInt16(widthTwips));
 }
 
 bool ScreenTooSmall(int screenWidthTwips, int screenHeightTwips)

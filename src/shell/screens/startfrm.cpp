@@ -8,7 +8,7 @@
 #include "common/widgets/twips.h"
 #include "shell/logic/familyname.h"
 #include "shell/logic/processvalues.h"
-#include "shell/settings/settingsslots.h"
+#include "shell/settings/settingsregistry.h"
 #include "shell/logic/windowsettings.h"
 #include "shell/screens/about1.h"
 #include "shell/screens/backgroundselector.h"
@@ -256,9 +256,9 @@ void Startfrm::runStart()
     }
     // The start values of SWR2.fil are read, as ever, though nothing uses
     // them; reading also makes the file on a first run.
-    ReadSlotInteger(SWR2, 2);
-    ReadSlotText(SWR2, 3);
-    ReadSlotText(SWR2, 4);
+    ReadSlotInteger(Settings::StartValue);
+    ReadSlotText(Settings::StartText1);
+    ReadSlotText(Settings::StartText2);
 
     updateDisplayTicks();
     centreCommandPanel();
@@ -465,7 +465,7 @@ void Startfrm::applyResizeRules(Qt::WindowStates previous)
             WriteWindowSize(process.WindowHeight, process.WindowWidth);
             fullScreenDisplay();
         }
-    } else if ((previous & Qt::WindowMaximized) && ReadSlotText(GColor3, 35) == QLatin1String("No")) {
+    } else if ((previous & Qt::WindowMaximized) && ReadSlotText(Settings::WindowMode) == QLatin1String("No")) {
         WriteWindowMode(true);
         process.WindowedMode = kWindowedMode;
         runStart();

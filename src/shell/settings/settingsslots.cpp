@@ -2,48 +2,67 @@
 
 #include "common/randomaccessfile.h"
 
+#include <cstring>
+
 namespace {
 
-QByteArray ReadSlot(const SettingsSlotFile& file, int slot)
+RandomAccessFile Open(const SettingsSlot& slot)
 {
-    return RandomAccessFile(QString::fromLatin1(file.name), file.slotLength).read(slot);
+    return RandomAccessFile(QString::fromLatin1(slot.file.name), slot.file.slotLength);
 }
 
-bool WriteSlot(const SettingsSlotFile& file, int slot, const QByteArray& bytes)
+QByteArray ReadSlot(const SettingsSlot& slot)
 {
-    if (bytes.size() > file.slotLength)
+    return Open(slot).read(slot.number);
+}
+
+bool WriteSlot(const SettingsSlot& slot, const QByteArray& bytes)
+{
+    if (bytes.size() > slot.file.slotLength)
         return false;
-    return RandomAccessFile(QString::fromLatin1(file.name), file.slotLength).write(slot, bytes);
+    return Open(slot).write(slot.number, bytes);
 }
 
 } // namespace
 
-QString ReadSlotText(const SettingsSlotFile& file, int slot)
+bool SettingsSlotFile::operator==(const SettingsSlotFile& other) const
 {
-    return DecodeSlotText(ReadSlot(file, slot));
+    return slotLength == other.slotLength && std::strcmp(name, other.name) == 0;
 }
 
-qint16 ReadSlotInteger(const SettingsSlotFile& file, int slot)
+QString ReadSlotText(const SettingsSlot& slot)
 {
-    return DecodeSlotInteger(ReadSlot(file, slot));
+    return DecodeSlotText(ReadSlot(slot));
 }
 
-TaggedValue ReadSlotTagged(const SettingsSlotFile& file, int slot)
+qint16 ReadSlotInteger(const SettingsSlot& slot)
 {
-    return DecodeSlotTagged(ReadSlot(file, slot));
+    return DecodeSlotInteger(ReadSlot(slot));
 }
 
-bool WriteSlotText(const SettingsSlotFile& file, int slot, QStringView text)
+TaggedValue ReadSlotTagged(const SettingsSlot& slot)
 {
-    return WriteSlot(file, slot, EncodeSlotText(text));
+    return DecodeSlotTagged(ReadSlot(slot));
 }
 
-bool WriteSlotInteger(const SettingsSlotFile& file, int slot, qint16 value)
+bool WriteSlotText(const SettingsSlot& slot, QStringView text)
 {
-    return WriteSlot(file, slot, EncodeSlotInteger(value));
+    return WriteSlot(slot, EncodeSlotText(text));
 }
 
-bool WriteSlotTagged(const SettingsSlotFile& file, int slot, const TaggedValue& value)
+bool WriteSlotInteger(const SettingsSlot& slot, qint16 value)
 {
-    return WriteSlot(file, slot, EncodeSlotTagged(value));
+    return WriteSlot(slot, EncodeSlotInteger(value));
+}
+
+bool WriteSlotTagged(const SettingsSlot& slot, const TaggedValue& value)
+{
+    return WriteSlot(slot, EncodeSlotTagged(value));
+}
+
+SettingsSlot UnderFileName(const SettingsSlot& slot, const char* fileName)
+{
+    SettingsSlot other = slot;
+    other.file.name = fileName;
+    return other;
 }

@@ -2,7 +2,8 @@
 // The settings files: small random-access files of numbered slots. Every
 // reader and writer opens the file, does its one slot and closes it again;
 // no settings object lives in memory. Defaults are applied by the readers of
-// each setting, never written.
+// each setting, never written. Which slot holds what is listed once, in
+// settingsregistry.h; callers name their slot from there.
 #include "common/slotvalues.h"
 
 #include <QString>
@@ -10,6 +11,8 @@
 struct SettingsSlotFile {
     const char* name;
     int slotLength;
+
+    bool operator==(const SettingsSlotFile& other) const;
 };
 
 inline constexpr SettingsSlotFile GColor1{"GColor1.Fil", 20};
@@ -20,15 +23,31 @@ inline constexpr SettingsSlotFile GQORB1{"GQORB1.Fil", 10};
 inline constexpr SettingsSlotFile QORBNAME{"QORBNAME.FIL", 40};
 inline constexpr SettingsSlotFile SWR2{"SWR2.fil", 20};
 
+// The form a slot's value has, fixed for that slot by the code that uses it.
+enum class SlotForm { Text, Integer, Tagged };
+
+// One slot of one settings file, and what it holds.
+struct SettingsSlot {
+    SettingsSlotFile file;
+    int number;
+    SlotForm form;
+    const char* holds;
+};
+
 // An empty text, 0 or no value when the slot was never written or lies past
 // the end of the file. A missing file is created empty, as opening it does.
-QString ReadSlotText(const SettingsSlotFile& file, int slot);
-qint16 ReadSlotInteger(const SettingsSlotFile& file, int slot);
-TaggedValue ReadSlotTagged(const SettingsSlotFile& file, int slot);
+QString ReadSlotText(const SettingsSlot& slot);
+qint16 ReadSlotInteger(const SettingsSlot& slot);
+TaggedValue ReadSlotTagged(const SettingsSlot& slot);
 
 // False, and nothing written, when the value does not fit its slot or the
 // write failed. Slots past the end extend the file; other slots stay as
 // they are.
-bool WriteSlotText(const SettingsSlotFile& file, int slot, QStringView text);
-bool WriteSlotInteger(const SettingsSlotFile& file, int slot, qint16 value);
-bool WriteSlotTagged(const SettingsSlotFile& file, int slot, const TaggedValue& value);
+bool WriteSlotText(const SettingsSlot& slot, QStringView text);
+bool WriteSlotInteger(const SettingsSlot& slot, qint16 value);
+bool WriteSlotTagged(const SettingsSlot& slot, const TaggedValue& value);
+
+// The same slot reached through another spelling of its file's name (the
+// cookbook menus open "Gcolor4.fil"); the case-blind resolver lands both on
+// one file.
+SettingsSlot UnderFileName(const SettingsSlot& slot, const char* fileName);
