@@ -20,9 +20,9 @@ int main(int argc, char** argv)
     QtDialogs dialogs;
     SystemScreenMetrics screen;
     Startfrm startfrm(dialogs, screen);
-    startfrm.registerActivity("mRecipeFiles", [&dialogs] { return new Form5(dialogs); });
-    startfrm.registerActivity("mFoodGuide", [&dialogs] { return new Foodg(dialogs); });
-    startfrm.registerActivity("mMeasGuide", [&dialogs] { return new Convform(dialogs); });
+    startfrm.registerActivity(MainCommand::RecipeFiles, [&dialogs] { return new Form5(dialogs); });
+    startfrm.registerActivity(MainCommand::FoodGuide, [&dialogs] { return new Foodg(dialogs); });
+    startfrm.registerActivity(MainCommand::MeasGuide, [&dialogs] { return new Convform(dialogs); });
     QObject::connect(&startfrm, &Startfrm::exitConfirmed, &app, [] { QApplication::exit(0); });
     startfrm.show();
     return app.exec();

@@ -335,7 +335,7 @@ TEST_F(FoodgTest, TheMainScreensFoodGuideButtonOpensTheFoodGuide)
     Process().SplashShown = true;
     LargeScreen screen;
     Startfrm main(dialogs, screen);
-    main.registerActivity("mFoodGuide", [this] { return new Foodg(dialogs); });
+    main.registerActivity(MainCommand::FoodGuide, [this] { return new Foodg(dialogs); });
     QPushButton* guideButton = nullptr;
     for (QPushButton* each : main.findChildren<QPushButton*>())
         if (each->text() == "&Food Guide")

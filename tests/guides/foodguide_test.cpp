@@ -20,7 +20,7 @@ TEST(FoodGuidePages, ThereAreFivePagesInButtonOrder)
     ASSERT_EQ(kFoodGuidePageCount, 5);
     ASSERT_EQ(expected::GuidePages().size(), 5u);
     for (int page = 1; page <= kFoodGuidePageCount; ++page)
-        EXPECT_EQ(FoodGuidePageOf(page).command, Q(expected::GuidePages()[page - 1].command)) << page;
+        EXPECT_EQ(FoodGuidePageOf(page).title, Q(expected::GuidePages()[page - 1].title)) << page;
     EXPECT_EQ(&FoodGuidePageOf(FoodGuidePage::HealthySubstitutes), &FoodGuidePageOf(5));
 }
 

@@ -716,7 +716,7 @@ TEST_F(Form5Test, TheMainScreensRecipeFileOpensTheRecipeScreenAndGetsTheFocusBac
     Process().SplashShown = true;
     LargeScreen screen;
     Startfrm main(dialogs, screen);
-    main.registerActivity("mRecipeFiles", [this] { return new Form5(dialogs); });
+    main.registerActivity(MainCommand::RecipeFiles, [this] { return new Form5(dialogs); });
     auto* recipeButton = main.findChild<QPushButton*>("Command1_0");
     ASSERT_TRUE(recipeButton->isEnabled());
     recipeButton->click();

@@ -502,7 +502,9 @@ TEST_F(StartfrmTest, ClosingTheWindowStoresItWithoutAQuestion)
 namespace {
 class FakeActivity final : public ActivityWindow {
 public:
-    FakeActivity() { setAttribute(Qt::WA_DeleteOnClose); }
+    explicit FakeActivity(Dialogs& dialogs) : ActivityWindow(dialogs, {"FakeActivity", Settings::Form5PanelColor, 1})
+    {
+    }
 
 protected:
     void closeEvent(QCloseEvent* event) override
@@ -517,7 +519,7 @@ TEST_F(StartfrmTest, ARegisteredActivityEnablesItsButtonAndMenuEntry)
 {
     Startfrm form(dialogs, screen);
     EXPECT_FALSE(button(form, 1)->isEnabled());
-    form.registerActivity("mFoodGuide", [] { return new FakeActivity; });
+    form.registerActivity(MainCommand::FoodGuide, [this] { return new FakeActivity(dialogs); });
     EXPECT_TRUE(button(form, 1)->isEnabled());
     EXPECT_TRUE(action(form, "mFoodGuide")->isEnabled());
 }
@@ -528,7 +530,7 @@ TEST_F(StartfrmTest, InTheSmallerScreenAnActivityTakesTheMainWindowsPlace)
     Startfrm form(dialogs, screen);
     form.show();
     QPointer<FakeActivity> opened;
-    form.registerActivity("mFoodGuide", [&opened] { return opened = new FakeActivity; });
+    form.registerActivity(MainCommand::FoodGuide, [this, &opened] { return opened = new FakeActivity(dialogs); });
     button(form, 1)->click();
     ASSERT_TRUE(opened);
     EXPECT_TRUE(opened->isVisible());
@@ -552,7 +554,7 @@ TEST_F(StartfrmTest, InFullScreenAnActivityOpensMaximised)
 {
     Startfrm form(dialogs, screen);
     QPointer<FakeActivity> opened;
-    form.registerActivity("mFoodGuide", [&opened] { return opened = new FakeActivity; });
+    form.registerActivity(MainCommand::FoodGuide, [this, &opened] { return opened = new FakeActivity(dialogs); });
     action(form, "mFoodGuide")->trigger();
     ASSERT_TRUE(opened);
     EXPECT_TRUE(opened->isMaximized());

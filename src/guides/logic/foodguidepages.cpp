@@ -210,10 +210,9 @@ QString Text(const char* text)
     return text ? QString::fromLatin1(text) : QString();
 }
 
-GuidePage MakePage(const char* command, const char* title, std::initializer_list<GuideColumn> columns)
+GuidePage MakePage(const char* title, std::initializer_list<GuideColumn> columns)
 {
     GuidePage page;
-    page.command = QString::fromLatin1(command);
     page.title = QString::fromLatin1(title);
     page.columns = QList<GuideColumn>(columns);
     return page;
@@ -223,7 +222,7 @@ GuidePage MakePage(const char* command, const char* title, std::initializer_list
 // second column and portions in the third; the longer list sets the rows.
 GuidePage DailyFoodGuide()
 {
-    GuidePage page = MakePage("&Food Guide", "Daily Food Guide Requirements",
+    GuidePage page = MakePage("Daily Food Guide Requirements",
                               {{QStringLiteral("Food Group"), 0.22},
                                {QStringLiteral("Daily Requirements"), 0.39},
                                {QStringLiteral("Approximate Portion Size for One Serving"), 0.39}});
@@ -242,7 +241,7 @@ GuidePage DailyFoodGuide()
 
 GuidePage CommonMeasures()
 {
-    GuidePage page = MakePage("&Common Measures", "Common Measures of Food",
+    GuidePage page = MakePage("Common Measures of Food",
                               {{QStringLiteral("Size"), 0.4},
                                {QStringLiteral("Cups or Amount"), 0.3},
                                {QStringLiteral("Servings"), 0.3}});
@@ -264,7 +263,7 @@ void AppendMeal(GuidePage& page, const char* meal, const char* const (&first)[N1
 
 GuidePage MenuIdeas()
 {
-    GuidePage page = MakePage("&Menu Ideas", "Suggested Menu Ideas",
+    GuidePage page = MakePage("Suggested Menu Ideas",
                               {{QStringLiteral("Meal"), 0.2},
                                {QStringLiteral("Suggested Menu"), 0.4},
                                {QStringLiteral("Suggested Menu"), 0.4}});
@@ -276,7 +275,7 @@ GuidePage MenuIdeas()
 
 GuidePage HelpfulHints()
 {
-    GuidePage page = MakePage("&Helpful Hints", "Helpful Kitchen Hints",
+    GuidePage page = MakePage("Helpful Kitchen Hints",
                               {{QStringLiteral("Hint Number"), 0.1},
                                {QStringLiteral("Hint Action"), 0.36},
                                {QStringLiteral("Helpful Hint"), 0.54}});
@@ -288,7 +287,7 @@ GuidePage HelpfulHints()
 
 GuidePage HealthySubstitutes()
 {
-    GuidePage page = MakePage("&Healthy Substitutes", "Healthy Recipe Substitutions",
+    GuidePage page = MakePage("Healthy Recipe Substitutions",
                               {{QStringLiteral("When your Recipe calls for:"), 0.3},
                                {QStringLiteral("Use:"), 0.7}});
     for (const TextPair& row : kSubstitutions)

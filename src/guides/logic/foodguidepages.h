@@ -24,7 +24,6 @@ struct GuideColumn {
 };
 
 struct GuidePage {
-    QString command;            // the caption of the button and menu entry
     QString title;              // shown above the grid
     QList<GuideColumn> columns;
     QList<QStringList> rows;    // every row has one cell per column; "" is an empty cell

@@ -3,8 +3,6 @@
 #include "common/dialogs.h"
 #include "shell/logic/gridcolors.h"
 #include "shell/kit/gridcolors.h"
-#include "shell/kit/helpwindow.h"
-#include "shell/kit/panelcolors.h"
 #include "shell/kit/screenstatusbar.h"
 
 #include <QEvent>
@@ -14,20 +12,12 @@
 #include <QButtonGroup>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
 #include <QTableWidget>
 
-Convform::Convform(Dialogs& dialogs, QWidget* parent) : ActivityWindow(parent), dialogs_(dialogs)
+Convform::Convform(Dialogs& dialogs, QWidget* parent)
+    : ActivityWindow(dialogs, {"Convform", Settings::MainPanelColor, kHelpTopic}, parent)
 {
-    setObjectName(QStringLiteral("Convform"));
     setWindowTitle(QStringLiteral("Food Measurement Guide"));
-    setAttribute(Qt::WA_DeleteOnClose);
-    statusBar_ = new ScreenStatusBar(this);
-    setStatusBar(statusBar_);
-    panelColors_ = new PanelColors(dialogs_, Settings::MainPanelColor, statusBar_, this);
-    setPanelColors(panelColors_);
-    buildMenus();
-    buildToolbars();
 
     auto* central = new QWidget(this);
     central->setObjectName(QStringLiteral("ConvformArea"));
@@ -40,18 +30,11 @@ Convform::Convform(Dialogs& dialogs, QWidget* parent) : ActivityWindow(parent), 
     layout->addWidget(optionFrames, 1);
     layout->addWidget(commandPanel);
 
-    for (QWidget* panel : {static_cast<QWidget*>(entryPanel), static_cast<QWidget*>(gridPanel_),
-                           static_cast<QWidget*>(commandPanel)})
-        panelColors_->addPanel(panel);
-    panelColors_->applyStored();
+    addColouredPanels(colouredPanels_ + QList<QWidget*>{entryPanel, gridPanel_, commandPanel});
     ApplyGridColors(grid_, ReadSharedGridColors());
-    connect(findChild<QAction*>(QStringLiteral("mPanelColor")), &QAction::triggered, panelColors_,
-            &PanelColors::choosePanelColor);
-    connect(findChild<QAction*>(QStringLiteral("mHelp")), &QAction::triggered, this,
-            [] { HelpWindow::showTopic(kHelpTopic); });
 
     setMultipleEntry(false);
-    statusBar_->setActivity(windowTitle());
+    screenStatusBar()->setActivity(windowTitle());
 }
 
 // ---- Converting -------------------------------------------------------------
@@ -115,8 +98,8 @@ void Convform::showMultiple(const ConversionOption& option)
 void Convform::setRoundMode(RoundMode mode)
 {
     roundMode_ = mode;
-    if (QAction* entry = findChild<QAction*>(QStringLiteral("mRound%1").arg(static_cast<int>(mode))))
-        entry->setChecked(true);
+    commands_->action(ConvformCommand(int(ConvformCommand::Round1) + int(mode) - int(RoundMode::None)))
+        ->setChecked(true);
     if (chosenOption_ != kNoOption && !text1_->text().isEmpty())
         chooseOption(chosenOption_);
 }
@@ -126,8 +109,7 @@ void Convform::setRoundMode(RoundMode mode)
 void Convform::setMultipleEntry(bool multiple)
 {
     multipleEntry_ = multiple;
-    findChild<QAction*>(multiple ? QStringLiteral("mMultipleEntry") : QStringLiteral("mSingleEntry"))
-        ->setChecked(true);
+    commands_->action(multiple ? ConvformCommand::MultipleEntry : ConvformCommand::SingleEntry)->setChecked(true);
     text1_->clear();
     text2_->clear();
     label1_->clear();
@@ -196,7 +178,3 @@ bool Convform::eventFilter(QObject* watched, QEvent* event)
     return ActivityWindow::eventFilter(watched, event);
 }
 
-void Convform::exitScreen()
-{
-    close();
-}

@@ -9,17 +9,16 @@
 
 #include "shell/kit/activitywindow.h"
 
-class Dialogs;
-class PanelColors;
-class QAction;
 class QBoxLayout;
 class QButtonGroup;
 class QFrame;
 class QLabel;
 class QLineEdit;
-class QMenu;
 class QTableWidget;
-class ScreenStatusBar;
+
+enum class ConvformCommand {
+    SingleEntry, MultipleEntry, Round1, Round2, Round3, Round4, Round5, PanelColor, Exit, Help,
+};
 
 class Convform final : public ActivityWindow {
     Q_OBJECT
@@ -38,8 +37,7 @@ protected:
 
 private:
     // Building (convformlayout.cpp).
-    void buildMenus();
-    void buildToolbars();
+    std::vector<CommandRow<ConvformCommand>> commandRows();
     QFrame* buildEntryPanel(QWidget* parent);
     QWidget* buildOptionFrames(QWidget* parent);
     QFrame* buildGridPanel(QWidget* parent);
@@ -55,11 +53,9 @@ private:
     void placeUnitLabels();
     void entryBoxEntered();
     void clearChosenOption();
-    void exitScreen();
 
-    Dialogs& dialogs_;
-    ScreenStatusBar* statusBar_ = nullptr;
-    PanelColors* panelColors_ = nullptr;
+    std::unique_ptr<CommandTable<ConvformCommand>> commands_;
+    QList<QWidget*> colouredPanels_;
     QLineEdit* text1_ = nullptr;             // Text1
     QLineEdit* text2_ = nullptr;             // Text2
     QLabel* text1Caption_ = nullptr;

@@ -2,13 +2,10 @@
 #include "guides/screens/convform.h"
 
 #include "common/dialogs.h"
-#include "shell/kit/commandbutton.h"
 #include "common/widgets/twips.h"
-#include "shell/kit/panelcolors.h"
-#include "shell/kit/screentoolbars.h"
+#include "shell/kit/raisedpanel.h"
 
 #include <QAction>
-#include <QActionGroup>
 #include <QBoxLayout>
 #include <QButtonGroup>
 #include <QGridLayout>
@@ -16,24 +13,20 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
-#include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QTableWidget>
-#include <QToolBar>
 
 namespace {
 
-QFrame* RaisedPanel(QWidget* parent, const char* objectName)
-{
-    auto* panel = new QFrame(parent);
-    panel->setObjectName(QString::fromLatin1(objectName));
-    panel->setFrameStyle(QFrame::Panel | QFrame::Raised);
-    panel->setAutoFillBackground(true);
-    return panel;
-}
+// The menu titles (Alt+O, Alt+H) leave Alt+C to the "&Close" button.
+constexpr MenuRow kMenus[] = {
+    {"mOptions", "&Options"},
+    {"mRoundOff", "&Round Off Number", "mOptions", true},
+    {"mHelpMenu", "&Help"},
+};
+constexpr const char* kRoundNames[] = {"mRound1", "mRound2", "mRound3", "mRound4", "mRound5"};
 
 QLabel* BoldLabel(const QString& text, QWidget* parent, const char* objectName)
 {
@@ -55,63 +48,38 @@ const QList<QList<ConversionGroup>> kColumns = {
 
 } // namespace
 
-// The menu titles (Alt+O, Alt+H) leave Alt+C to the "&Close" button.
-void Convform::buildMenus()
+std::vector<CommandRow<ConvformCommand>> Convform::commandRows()
 {
-    QMenu* options = menuBar()->addMenu(QStringLiteral("&Options"));
-    options->setObjectName(QStringLiteral("mOptions"));
-    auto* entryModes = new QActionGroup(this);
-    QAction* single = AddCommand(options, "mSingleEntry", QStringLiteral("&Single Entry"));
-    QAction* multiple = AddCommand(options, "mMultipleEntry", QStringLiteral("&Multiple Entry"));
-    for (QAction* action : {single, multiple}) {
-        action->setCheckable(true);
-        entryModes->addAction(action);
-    }
-    single->setChecked(true);
-    connect(single, &QAction::triggered, this, [this] { setMultipleEntry(false); });
-    connect(multiple, &QAction::triggered, this, [this] { setMultipleEntry(true); });
-    options->addSeparator();
-
-    QMenu* rounding = options->addMenu(QStringLiteral("&Round Off Number"));
-    rounding->setObjectName(QStringLiteral("mRoundOff"));
-    auto* roundModes = new QActionGroup(this);
+    using enum ConvformCommand;
+    std::vector<CommandRow<ConvformCommand>> rows = {
+        {SingleEntry, {.name = "mSingleEntry", .menu = "mOptions", .caption = "&Single Entry",
+                       .toolbar = {Toolbar::Top, 0}, .run = [this] { setMultipleEntry(false); }, .choiceGroup = 1}},
+        {MultipleEntry, {.name = "mMultipleEntry", .menu = "mOptions", .caption = "&Multiple Entry",
+                         .toolbar = {Toolbar::Top, 1}, .run = [this] { setMultipleEntry(true); }, .choiceGroup = 1}},
+    };
     for (int number = 1; number <= 5; ++number) {
         const auto mode = static_cast<RoundMode>(number);
-        QAction* entry = rounding->addAction(RoundModeCaption(mode));
-        entry->setObjectName(QStringLiteral("mRound%1").arg(number));
-        entry->setCheckable(true);
-        entry->setChecked(mode == roundMode_);
-        roundModes->addAction(entry);
-        connect(entry, &QAction::triggered, this, [this, mode] { setRoundMode(mode); });
+        rows.push_back({ConvformCommand(int(Round1) + number - 1),
+                        {.name = kRoundNames[number - 1], .menu = "mRoundOff", .caption = RoundModeCaption(mode),
+                         .run = [this, mode] { setRoundMode(mode); }, .choiceGroup = 2}});
     }
-    options->addSeparator();
-    AddCommand(options, "mPanelColor", QStringLiteral("Panel C&olor"));
-    options->addSeparator();
-    connect(AddCommand(options, "mExit", QStringLiteral("E&xit")), &QAction::triggered, this,
-            &Convform::exitScreen);
-
-    QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
-    help->setObjectName(QStringLiteral("mHelpMenu"));
-    AddCommand(help, "mHelp", QStringLiteral("Measurement Guide &Help"))->setShortcut(QKeySequence(Qt::Key_F1));
-}
-
-void Convform::buildToolbars()
-{
-    auto* toolbars = new ScreenToolbars(this, statusBar_);
-    for (const char* name : {"mSingleEntry", "mMultipleEntry"})
-        toolbars->top()->addAction(findChild<QAction*>(QString::fromLatin1(name)));
-    toolbars->top()->addSeparator();
-    for (const char* name : {"mHelp", "mExit"})
-        toolbars->top()->addAction(findChild<QAction*>(QString::fromLatin1(name)));
-    toolbars->side()->addAction(findChild<QAction*>(QStringLiteral("mPanelColor")));
-    toolbars->applyFlags();
+    rows.insert(rows.end(), {
+        {PanelColor, {.name = "mPanelColor", .menu = "mOptions", .caption = "Panel C&olor", .separatorBefore = true,
+                      .toolbar = {Toolbar::Side, 0}, .run = [this] { choosePanelColor(); }}},
+        {Exit, {.name = "mExit", .menu = "mOptions", .caption = "E&xit", .separatorBefore = true,
+                .button = {"&Close", 0}, .toolbar = {Toolbar::Top, 11}, .run = [this] { exitScreen(); }}},
+        {Help, {.name = "mHelp", .menu = "mHelpMenu", .caption = "Measurement Guide &Help",
+                .toolbar = {Toolbar::Top, 10, true}, .run = [this] { showHelp(); },
+                .shortcut = QKeySequence(Qt::Key_F1)}},
+    });
+    return rows;
 }
 
 // One line: the entry box (two in multiple entry), then in single entry the
 // from unit, the result panel and the to unit.
 QFrame* Convform::buildEntryPanel(QWidget* parent)
 {
-    QFrame* panel = RaisedPanel(parent, "SSPanel1");
+    QFrame* panel = MakeRaisedPanel(QStringLiteral("SSPanel1"), parent);
     auto* row = new QHBoxLayout(panel);
     row->setContentsMargins(12, 10, 12, 10);
     text1Caption_ = BoldLabel(EntryCaption(false), panel, "Text1Caption");
@@ -124,7 +92,7 @@ QFrame* Convform::buildEntryPanel(QWidget* parent)
         box->setFixedWidth(text1_->fontMetrics().horizontalAdvance(QStringLiteral("0,000,000.0000")) + 16);
         box->installEventFilter(this);
         connect(box, &QLineEdit::returnPressed, this,
-                [this] { dialogs_.tell(InputInformationTitle(), InputInformationText(), Icon::Information); });
+                [this] { dialogs().tell(InputInformationTitle(), InputInformationText(), Icon::Information); });
     }
     row->addWidget(text1Caption_);
     row->addWidget(text1_);
@@ -193,7 +161,7 @@ QWidget* Convform::buildOptionFrames(QWidget* parent)
                 buttons->addWidget(button);
             }
             stack->addWidget(frame);
-            panelColors_->addPanel(frame);
+            colouredPanels_.append(frame);
         }
         stack->addStretch(1);
         if (column == 0)
@@ -210,7 +178,7 @@ QWidget* Convform::buildOptionFrames(QWidget* parent)
 // Multiple entry: the unit labels, the heading and the grid.
 QFrame* Convform::buildGridPanel(QWidget* parent)
 {
-    gridPanel_ = RaisedPanel(parent, "SSPanel2");
+    gridPanel_ = MakeRaisedPanel(QStringLiteral("SSPanel2"), parent);
     auto* column = new QVBoxLayout(gridPanel_);
     gridLabelRow_ = new QHBoxLayout;
     gridLabelRow_->setSpacing(0);
@@ -238,13 +206,13 @@ QFrame* Convform::buildGridPanel(QWidget* parent)
 
 QFrame* Convform::buildCommandPanel(QWidget* parent)
 {
-    QFrame* panel = RaisedPanel(parent, "SSPanel3");
+    QFrame* panel = MakeRaisedPanel(QStringLiteral("SSPanel3"), parent);
+    commands_ = makeCommands<ConvformCommand>(kMenus, commandRows(), panel, "Command1");
+    commands_->action(ConvformCommand::SingleEntry)->setChecked(true);
+    commands_->action(ConvformCommand(int(ConvformCommand::Round1) + int(roundMode_) - int(RoundMode::None)))
+        ->setChecked(true);
     auto* row = new QHBoxLayout(panel);
     row->addStretch(1);
-    auto* close = new QPushButton(QStringLiteral("&Close"), panel);
-    close->setObjectName(QStringLiteral("Command1"));
-    close->setAutoDefault(false);
-    BindButtonToAction(close, findChild<QAction*>(QStringLiteral("mExit")));
-    row->addWidget(close);
+    row->addWidget(commands_->button(ConvformCommand::Exit));
     return panel;
 }

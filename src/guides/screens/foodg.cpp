@@ -1,23 +1,16 @@
 #include "guides/screens/foodg.h"
 
-#include "shell/kit/commandbutton.h"
 #include "shell/logic/processvalues.h"
 #include "shell/kit/gridcolors.h"
-#include "shell/kit/helpwindow.h"
-#include "shell/kit/panelcolors.h"
+#include "shell/kit/raisedpanel.h"
 #include "shell/kit/screenstatusbar.h"
-#include "shell/kit/screentoolbars.h"
 
-#include <QAction>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QMenu>
-#include <QMenuBar>
 #include <QPushButton>
 #include <QTableWidget>
-#include <QToolBar>
 #include <QVBoxLayout>
 
 namespace {
@@ -25,39 +18,48 @@ namespace {
 // Breathing room above and below a row's text, in pixels.
 constexpr int kRowPadding = 8;
 
-// The page commands in the order of the screen's buttons.
-struct PageCommand {
-    const char* action;
-    FoodGuidePage page;
+// No menu title takes a letter that a screen button uses (F, C, M, H, X).
+constexpr MenuRow kMenus[] = {
+    {"mOptions", "&Options"},
+    {"mHelpMenu", "Hel&p"},
 };
-constexpr PageCommand kPageCommands[] = {
-    {"mFoodGuide", FoodGuidePage::FoodGuide},
-    {"mCommonMeasures", FoodGuidePage::CommonMeasures},
-    {"mMenuIdeas", FoodGuidePage::MenuIdeas},
-    {"mHelpfulHints", FoodGuidePage::HelpfulHints},
-    {"mHealthySubstitutes", FoodGuidePage::HealthySubstitutes},
-};
-
-QFrame* RaisedPanel(const char* objectName, QWidget* parent)
-{
-    auto* panel = new QFrame(parent);
-    panel->setObjectName(QString::fromLatin1(objectName));
-    panel->setFrameStyle(QFrame::Panel | QFrame::Raised);
-    panel->setAutoFillBackground(true);
-    return panel;
-}
 
 } // namespace
 
-Foodg::Foodg(Dialogs& dialogs, QWidget* parent) : ActivityWindow(parent), dialogs_(dialogs)
+std::vector<CommandRow<FoodgCommand>> Foodg::commandRows()
 {
-    setObjectName(QStringLiteral("Foodg"));
-    setAttribute(Qt::WA_DeleteOnClose);
+    using enum FoodgCommand;
+    const auto page = [this](FoodGuidePage shown) { return [this, shown] { showPage(shown); }; };
+    return {
+        {FoodGuide, {.name = "mFoodGuide", .menu = "mOptions", .caption = "&Food Guide",
+                     .button = {"&Food Guide", 0}, .toolbar = {Toolbar::Top, 0},
+                     .run = page(FoodGuidePage::FoodGuide)}},
+        {CommonMeasures, {.name = "mCommonMeasures", .menu = "mOptions", .caption = "&Common Measures",
+                          .button = {"&Common Measures", 1}, .toolbar = {Toolbar::Top, 1},
+                          .run = page(FoodGuidePage::CommonMeasures)}},
+        {MenuIdeas, {.name = "mMenuIdeas", .menu = "mOptions", .caption = "&Menu Ideas",
+                     .button = {"&Menu Ideas", 2}, .toolbar = {Toolbar::Top, 2},
+                     .run = page(FoodGuidePage::MenuIdeas)}},
+        {HelpfulHints, {.name = "mHelpfulHints", .menu = "mOptions", .caption = "&Helpful Hints",
+                        .button = {"&Helpful Hints", 3}, .toolbar = {Toolbar::Top, 3},
+                        .run = page(FoodGuidePage::HelpfulHints)}},
+        {HealthySubstitutes, {.name = "mHealthySubstitutes", .menu = "mOptions", .caption = "&Healthy Substitutes",
+                              .button = {"&Healthy Substitutes", 4}, .toolbar = {Toolbar::Top, 4},
+                              .run = page(FoodGuidePage::HealthySubstitutes)}},
+        {PanelColor, {.name = "mPanelColor", .menu = "mOptions", .caption = "Panel C&olor", .separatorBefore = true,
+                      .toolbar = {Toolbar::Side, 0}, .run = [this] { choosePanelColor(); }}},
+        {Exit, {.name = "mExit", .menu = "mOptions", .caption = "E&xit", .separatorBefore = true,
+                .button = {"E&xit", 5}, .toolbar = {Toolbar::Top, 11}, .run = [this] { exitScreen(); }}},
+        {Help, {.name = "mHelp", .menu = "mHelpMenu", .caption = "Food Guide &Help",
+                .toolbar = {Toolbar::Top, 10, true}, .run = [this] { showHelp(); },
+                .shortcut = QKeySequence(Qt::Key_F1)}},
+    };
+}
+
+Foodg::Foodg(Dialogs& dialogs, QWidget* parent)
+    : ActivityWindow(dialogs, {"Foodg", Settings::FoodgPanelColor, kHelpTopic}, parent)
+{
     setWindowTitle(FoodGuideCaption(Process().FamilyName));
-    statusBar_ = new ScreenStatusBar(this);
-    setStatusBar(statusBar_);
-    buildMenus();
-    buildToolbars();
 
     auto* central = new QWidget(this);
     central->setObjectName(QStringLiteral("FoodgArea"));
@@ -66,8 +68,7 @@ Foodg::Foodg(Dialogs& dialogs, QWidget* parent) : ActivityWindow(parent), dialog
     title_ = new QLabel(central);
     title_->setObjectName(QStringLiteral("SSPanel1"));
     title_->setAlignment(Qt::AlignCenter);
-    title_->setFrameStyle(QFrame::Panel | QFrame::Raised);
-    title_->setAutoFillBackground(true);
+    MakeRaised(title_);
     title_->setMargin(4);
     QFont titleFont = title_->font();
     titleFont.setPointSize(titleFont.pointSize() + 4);
@@ -94,77 +95,20 @@ Foodg::Foodg(Dialogs& dialogs, QWidget* parent) : ActivityWindow(parent), dialog
     grid_->viewport()->installEventFilter(this);
     ApplyGridColors(grid_, ReadSharedGridColors());
 
-    auto* commands = RaisedPanel("SSPanel2", central);
+    QFrame* commands = MakeRaisedPanel(QStringLiteral("SSPanel2"), central);
+    commands_ = makeCommands<FoodgCommand>(kMenus, commandRows(), commands);
     auto* buttons = new QHBoxLayout(commands);
-    buildCommandButtons(buttons, commands);
+    for (QPushButton* button : commands_->buttons())
+        buttons->addWidget(button);
 
     auto* layout = new QVBoxLayout(central);
     layout->addWidget(title_);
     layout->addWidget(grid_, 1);
     layout->addWidget(commands);
 
-    panelColors_ = new PanelColors(dialogs_, Settings::FoodgPanelColor, statusBar_, this);
-    setPanelColors(panelColors_);
-    panelColors_->addPanel(title_);
-    panelColors_->addPanel(commands);
-    panelColors_->applyStored();
-    connect(findChild<QAction*>(QStringLiteral("mPanelColor")), &QAction::triggered, panelColors_,
-            &PanelColors::choosePanelColor);
-
+    addColouredPanels({title_, commands});
     showPage(FoodGuidePage::FoodGuide);
-    statusBar_->setActivity(windowTitle());
-}
-
-// No menu title takes a letter that a screen button uses (F, C, M, H, X).
-void Foodg::buildMenus()
-{
-    QMenu* options = menuBar()->addMenu(QStringLiteral("&Options"));
-    options->setObjectName(QStringLiteral("mOptions"));
-    for (const PageCommand& command : kPageCommands) {
-        const FoodGuidePage page = command.page;
-        connect(AddCommand(options, command.action, FoodGuidePageOf(page).command), &QAction::triggered, this,
-                [this, page] { showPage(page); });
-    }
-    options->addSeparator();
-    AddCommand(options, "mPanelColor", QStringLiteral("Panel C&olor"));
-    options->addSeparator();
-    connect(AddCommand(options, "mExit", QStringLiteral("E&xit")), &QAction::triggered, this, &Foodg::close);
-
-    QMenu* help = menuBar()->addMenu(QStringLiteral("Hel&p"));
-    help->setObjectName(QStringLiteral("mHelpMenu"));
-    QAction* helpEntry = AddCommand(help, "mHelp", QStringLiteral("Food Guide &Help"));
-    helpEntry->setShortcut(QKeySequence(Qt::Key_F1));
-    connect(helpEntry, &QAction::triggered, this, [] { HelpWindow::showTopic(kHelpTopic); });
-}
-
-void Foodg::buildToolbars()
-{
-    auto* toolbars = new ScreenToolbars(this, statusBar_);
-    const auto put = [this](QToolBar* bar, std::initializer_list<const char*> names) {
-        for (const char* name : names)
-            bar->addAction(findChild<QAction*>(QString::fromLatin1(name)));
-    };
-    put(toolbars->top(), {"mFoodGuide", "mCommonMeasures", "mMenuIdeas", "mHelpfulHints", "mHealthySubstitutes"});
-    toolbars->top()->addSeparator();
-    put(toolbars->top(), {"mHelp", "mExit"});
-    put(toolbars->side(), {"mPanelColor"});
-    toolbars->applyFlags();
-}
-
-void Foodg::buildCommandButtons(QBoxLayout* layout, QWidget* parent)
-{
-    QStringList actions;
-    for (const PageCommand& command : kPageCommands)
-        actions.append(QString::fromLatin1(command.action));
-    actions.append(QStringLiteral("mExit"));
-    for (int i = 0; i < actions.size(); ++i) {
-        QAction* action = findChild<QAction*>(actions[i]);
-        auto* button = new QPushButton(action->text(), parent);
-        button->setObjectName(QStringLiteral("Command1_%1").arg(i));
-        button->setAutoDefault(false);
-        BindButtonToAction(button, action);
-        layout->addWidget(button);
-    }
+    screenStatusBar()->setActivity(windowTitle());
 }
 
 void Foodg::showPage(FoodGuidePage page)

@@ -1,16 +1,16 @@
 #pragma once
 // Foodg, the food guide: a small reference book of five fixed pages shown
-// one at a time in a read-only grid. Each page command is one QAction shared
-// by its "Options" menu entry, toolbar button and screen button.
+// one at a time in a read-only grid.
 #include "guides/logic/foodguidepages.h"
 
 #include "shell/kit/activitywindow.h"
 
-class Dialogs;
-class PanelColors;
 class QLabel;
 class QTableWidget;
-class ScreenStatusBar;
+
+enum class FoodgCommand {
+    FoodGuide, CommonMeasures, MenuIdeas, HelpfulHints, HealthySubstitutes, PanelColor, Exit, Help,
+};
 
 class Foodg final : public ActivityWindow {
     Q_OBJECT
@@ -29,14 +29,10 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void buildMenus();
-    void buildToolbars();
-    void buildCommandButtons(class QBoxLayout* layout, QWidget* parent);
+    std::vector<CommandRow<FoodgCommand>> commandRows();
     void fitColumns();
 
-    Dialogs& dialogs_;
-    ScreenStatusBar* statusBar_ = nullptr;
-    PanelColors* panelColors_ = nullptr;
+    std::unique_ptr<CommandTable<FoodgCommand>> commands_;
     QLabel* title_ = nullptr;          // SSPanel1: the page's title
     QTableWidget* grid_ = nullptr;     // VSGd1
     FoodGuidePage page_ = FoodGuidePage::FoodGuide;

@@ -53,12 +53,10 @@ bool ReasonIsTheUser(Qt::FocusReason reason)
 
 } // namespace
 
-Form5::Form5(Dialogs& dialogs, QWidget* parent) : ActivityWindow(parent), dialogs_(dialogs)
+Form5::Form5(Dialogs& dialogs, QWidget* parent)
+    : ActivityWindow(dialogs, {"Form5", Settings::Form5PanelColor, kHelpTopic}, parent), dialogs_(dialogs)
 {
-    setObjectName(QStringLiteral("Form5"));
-    setAttribute(Qt::WA_DeleteOnClose);
-    statusBar_ = new ScreenStatusBar(this);
-    setStatusBar(statusBar_);
+    statusBar_ = screenStatusBar();
     buildMenus();
     buildToolbars();
 
@@ -93,8 +91,7 @@ Form5::Form5(Dialogs& dialogs, QWidget* parent) : ActivityWindow(parent), dialog
     titlesPanel_ = new CookbookTitlesPanel(central);
     buildPrintPanel(central);
 
-    panelColors_ = new PanelColors(dialogs_, Settings::Form5PanelColor, statusBar_, this);
-    setPanelColors(panelColors_);
+    panelColors_ = panelColors();
     panelColors_->addPanel(titleStrip_);
     panelColors_->addPanel(commands);
     for (QWidget* panel : fields_->colouredPanels())

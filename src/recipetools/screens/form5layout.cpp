@@ -82,7 +82,7 @@ void Form5::buildMenus()
 
 void Form5::buildToolbars()
 {
-    auto* toolbars = new ScreenToolbars(this, statusBar_);
+    ScreenToolbars* toolbars = this->toolbars();
     const auto put = [this](QToolBar* bar, std::initializer_list<const char*> names) {
         for (const char* name : names)
             bar->addAction(findChild<QAction*>(QString::fromLatin1(name)));

@@ -1,10 +1,94 @@
 #include "shell/kit/activitywindow.h"
 
+#include "common/dialogs.h"
+#include "shell/kit/helpwindow.h"
 #include "shell/kit/panelcolors.h"
+#include "shell/kit/screenstatusbar.h"
+#include "shell/kit/screentoolbars.h"
 
 #include <QCloseEvent>
 #include <QContextMenuEvent>
+#include <QIcon>
+#include <QKeyEvent>
 #include <QMenu>
+
+ActivityWindow::ActivityWindow(Dialogs& dialogs, const ScreenFrame& frame, QWidget* parent)
+    : QMainWindow(parent), dialogs_(dialogs), helpTopic_(frame.helpTopic)
+{
+    setObjectName(QString::fromLatin1(frame.name));
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowIcon(QIcon(QStringLiteral(":/screens/brindlepot.png")));
+    statusBar_ = new ScreenStatusBar(this);
+    setStatusBar(statusBar_);
+    panelColors_ = new PanelColors(dialogs_, frame.panelColor, statusBar_, this);
+    toolbars_ = new ScreenToolbars(this, statusBar_, frame.topToolbarFlag);
+}
+
+ActivityWindow::~ActivityWindow() = default;
+
+QToolBar* ActivityWindow::topToolbar() const
+{
+    return toolbars_->top();
+}
+
+QToolBar* ActivityWindow::sideToolbar() const
+{
+    return toolbars_->side();
+}
+
+void ActivityWindow::commandsBuilt(QMenu* options)
+{
+    optionsMenu_ = options;
+    toolbars_->applyFlags();
+}
+
+void ActivityWindow::addColouredPanels(const QList<QWidget*>& panels)
+{
+    for (QWidget* panel : panels)
+        panelColors_->addPanel(panel);
+    panelColors_->applyStored();
+}
+
+void ActivityWindow::choosePanelColor()
+{
+    panelColors_->choosePanelColor();
+}
+
+void ActivityWindow::showHelp()
+{
+    HelpWindow::showTopic(helpTopic());
+}
+
+void ActivityWindow::exitScreen()
+{
+    close();
+}
+
+void ActivityWindow::pressEscape()
+{
+    for (const EscapeStep& step : escapeOrder_) {
+        if (step.isOpen()) {
+            step.close();
+            return;
+        }
+    }
+    exitScreen();
+}
+
+bool ActivityWindow::saveQuestionAllows(const Message& question, const std::function<bool()>& save,
+                                        const std::function<void()>& discard)
+{
+    switch (dialogs_.ask(question)) {
+    case Answer::Yes:
+        return save();
+    case Answer::No:
+        if (discard)
+            discard();
+        return true;
+    default:
+        return false;
+    }
+}
 
 void ActivityWindow::closeEvent(QCloseEvent* event)
 {
@@ -12,14 +96,25 @@ void ActivityWindow::closeEvent(QCloseEvent* event)
         event->ignore();
         return;
     }
-    if (panelColors_)
-        panelColors_->offerToStoreOnClose();
+    panelColors_->offerToStoreOnClose();
     event->accept();
     emit closed();
 }
 
+// A right click on a panel or label opens the screen's "&Options" menu.
 void ActivityWindow::contextMenuEvent(QContextMenuEvent* event)
 {
-    if (auto* options = findChild<QMenu*>(QStringLiteral("mOptions")))
-        options->popup(event->globalPos());
+    if (optionsMenu_)
+        optionsMenu_->popup(event->globalPos());
+}
+
+// Escape reaches the window when no control took it for itself (a drop
+// list, a combo box's list, a dialog).
+void ActivityWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier) {
+        pressEscape();
+        return;
+    }
+    QMainWindow::keyPressEvent(event);
 }

@@ -6,6 +6,9 @@
 
 void BindButtonToAction(QAbstractButton* button, QAction* action)
 {
+    // Which command the button serves, for anyone who looks at the screen
+    // from outside (tests, accessibility readers).
+    button->setProperty("command", action->objectName());
     QObject::connect(button, &QAbstractButton::clicked, action, &QAction::trigger);
     QObject::connect(action, &QAction::changed, button, [button, action] {
         button->setEnabled(action->isEnabled());

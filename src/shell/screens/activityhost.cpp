@@ -3,15 +3,8 @@
 #include "shell/logic/processvalues.h"
 #include "shell/kit/activitywindow.h"
 
-#include <QAction>
 
 ActivityHost::ActivityHost(QWidget* mainWindow) : QObject(mainWindow), mainWindow_(mainWindow) {}
-
-void ActivityHost::add(QAction* command, Factory factory)
-{
-    command->setEnabled(true);
-    connect(command, &QAction::triggered, this, [this, factory] { open(factory); });
-}
 
 void ActivityHost::open(const Factory& factory)
 {

@@ -9,7 +9,6 @@
 #include <functional>
 
 class ActivityWindow;
-class QAction;
 class QWidget;
 
 class ActivityHost final : public QObject {
@@ -19,14 +18,13 @@ public:
 
     explicit ActivityHost(QWidget* mainWindow);
 
-    // Makes `command` open the activity; a command without one stays disabled.
-    void add(QAction* command, Factory factory);
+    // Opens the activity, or brings it to the front when it is open.
+    void open(const Factory& factory);
 
 signals:
     void activityClosed();
 
 private:
-    void open(const Factory& factory);
 
     QWidget* mainWindow_;
     QPointer<ActivityWindow> current_;

@@ -3,7 +3,6 @@
 #include "common/dates.h"
 #include "common/dialogs.h"
 #include "common/programfolder.h"
-#include "shell/kit/commandbutton.h"
 #include "common/widgets/qtcolors.h"
 #include "common/widgets/twips.h"
 #include "shell/logic/familyname.h"
@@ -33,19 +32,13 @@ namespace {
 
 constexpr int kPanelRaiseTwips = 400; // the command panel sits this far above the centre
 
-// The nine buttons in index order, each with the menu entry it shares its
-// command with.
-struct MainButton {
-    const char* caption;
-    const char* action;
+constexpr MenuRow kMenus[] = {
+    {"mOptions", "&Options"},
+    {"mProgramDisplay", "&Program Display", "mOptions"},
+    {"mBrindlepot", "Brindlepot"},
+    {"mHelp", "&Help"},
 };
-constexpr MainButton kButtons[] = {
-    {"&Recipe File", "mRecipeFiles"},       {"&Food Guide", "mFoodGuide"},
-    {"Food &Meas. Guide", "mMeasGuide"},    {"Menu &Planner", "mMenuPlanner"},
-    {"&Shopping List Maker", "mShoppingList"}, {"&Help", "mOverview"},
-    {"&Weight Tracker", "mWeightTracker"},  {"E&xit", "mExit"},
-    {"&Emergency Storage", "mEmergency"},
-};
+
 // Where each button index stands in the 3 x 3 panel (row, column).
 constexpr int kButtonCell[][2] = {{0, 0}, {0, 1}, {0, 2}, {1, 0}, {1, 1}, {2, 1}, {1, 2}, {2, 2}, {2, 0}};
 
@@ -85,12 +78,9 @@ Startfrm::Startfrm(Dialogs& dialogs, const ScreenMetrics& screen, QWidget* paren
 
     activities_ = new ActivityHost(this);
     connect(activities_, &ActivityHost::activityClosed, this, &Startfrm::focusGained);
-    buildMenus();
     buildCommandPanel();
 
     backgroundSelector_ = new BackgroundSelector(dialogs_, central_);
-    connect(findChild<QAction*>(QStringLiteral("mBackground")), &QAction::triggered, this,
-            [this] { backgroundSelector_->toggle(background_); });
     connect(backgroundSelector_, &BackgroundSelector::previewBackground, this, &Startfrm::showBackground);
     connect(backgroundSelector_, &BackgroundSelector::backgroundChosen, this, [this](const Background& chosen) {
         background_ = chosen;
@@ -108,60 +98,46 @@ Startfrm::Startfrm(Dialogs& dialogs, const ScreenMetrics& screen, QWidget* paren
     runStart();
 }
 
-void Startfrm::buildMenus()
+// The activities' rows have no routine until their screen is registered.
+std::vector<CommandRow<MainCommand>> Startfrm::commandRows()
 {
-    optionsMenu_ = menuBar()->addMenu(QStringLiteral("&Options"));
-    optionsMenu_->setObjectName(QStringLiteral("mOptions"));
-    AddCommand(optionsMenu_, "mBackground", QStringLiteral("&Background Selector"));
-    QMenu* display = optionsMenu_->addMenu(QStringLiteral("&Program Display"));
-    display->setObjectName(QStringLiteral("mProgramDisplay"));
-    mFullScreen_ = AddCommand(display, "mFullScreen", QStringLiteral("&Full Screen Display"));
-    mSmallerScreen_ = AddCommand(display, "mSmallerScreen", QStringLiteral("&Smaller Screen Display"));
-    display->addSeparator();
-    mDefaultSize_ = AddCommand(display, "mDefaultSize", QStringLiteral("&Default Screen Size"));
-    for (QAction* tickable : {mFullScreen_, mSmallerScreen_, mDefaultSize_})
-        tickable->setCheckable(true);
-    connect(mFullScreen_, &QAction::triggered, this, &Startfrm::fullScreenDisplay);
-    connect(mSmallerScreen_, &QAction::triggered, this, &Startfrm::smallerScreenDisplay);
-    connect(mDefaultSize_, &QAction::triggered, this, &Startfrm::defaultScreenSize);
-    optionsMenu_->addSeparator();
-    connect(AddCommand(optionsMenu_, "mFamilyName", QStringLiteral("&Family Name")), &QAction::triggered, this,
-            &Startfrm::askFamilyName);
-    optionsMenu_->addSeparator();
-    connect(AddCommand(optionsMenu_, "mExit", QStringLiteral("E&xit")), &QAction::triggered, this,
-            &Startfrm::exitProgram);
-
-    // The activity screens; an entry whose screen is not built yet stays disabled.
-    QMenu* activities = menuBar()->addMenu(QStringLiteral("Brindlepot"));
-    activities->setObjectName(QStringLiteral("mBrindlepot"));
-    const auto addActivity = [&](const char* name, const char* caption) {
-        AddCommand(activities, name, QString::fromLatin1(caption))->setEnabled(false);
+    using enum MainCommand;
+    return {
+        {Background, {.name = "mBackground", .menu = "mOptions", .caption = "&Background Selector",
+                      .run = [this] { backgroundSelector_->toggle(background_); }}},
+        {FullScreen, {.name = "mFullScreen", .menu = "mProgramDisplay", .caption = "&Full Screen Display",
+                      .run = [this] { fullScreenDisplay(); }, .checkable = true}},
+        {SmallerScreen, {.name = "mSmallerScreen", .menu = "mProgramDisplay", .caption = "&Smaller Screen Display",
+                         .run = [this] { smallerScreenDisplay(); }, .checkable = true}},
+        {DefaultSize, {.name = "mDefaultSize", .menu = "mProgramDisplay", .caption = "&Default Screen Size",
+                       .separatorBefore = true, .run = [this] { defaultScreenSize(); }, .checkable = true}},
+        {FamilyName, {.name = "mFamilyName", .menu = "mOptions", .caption = "&Family Name", .separatorBefore = true,
+                      .run = [this] { askFamilyName(); }}},
+        {Exit, {.name = "mExit", .menu = "mOptions", .caption = "E&xit", .separatorBefore = true,
+                .button = {"E&xit", 7}, .run = [this] { exitProgram(); }}},
+        {RecipeFiles, {.name = "mRecipeFiles", .menu = "mBrindlepot", .caption = "&Recipe Files",
+                       .button = {"&Recipe File", 0}}},
+        {FoodGuide, {.name = "mFoodGuide", .menu = "mBrindlepot", .caption = "&Food Guide",
+                     .button = {"&Food Guide", 1}}},
+        {MeasGuide, {.name = "mMeasGuide", .menu = "mBrindlepot", .caption = "Food &Measurement Guide",
+                     .separatorBefore = true, .button = {"Food &Meas. Guide", 2}}},
+        {MenuPlanner, {.name = "mMenuPlanner", .menu = "mBrindlepot", .caption = "Menu &Planner",
+                       .separatorBefore = true, .button = {"Menu &Planner", 3}}},
+        {ShoppingList, {.name = "mShoppingList", .menu = "mBrindlepot", .caption = "&Shopping List Maker",
+                        .button = {"&Shopping List Maker", 4}}},
+        {Emergency, {.name = "mEmergency", .menu = "mBrindlepot", .caption = "&Emergency Food Storage",
+                     .separatorBefore = true, .button = {"&Emergency Storage", 8}}},
+        {WeightTracker, {.name = "mWeightTracker", .menu = "mBrindlepot", .caption = "Weight Tracker",
+                         .separatorBefore = true, .button = {"&Weight Tracker", 6}}},
+        {Overview, {.name = "mOverview", .menu = "mHelp", .caption = "&Program Overview", .button = {"&Help", 5},
+                    .run = [this] { showHelp(kOverviewTopic); }}},
+        {BackupRestore, {.name = "mBackupRestore", .menu = "mHelp", .caption = "&Backup and Restore Option",
+                         .separatorBefore = true, .run = [this] { showHelp(kBackupTopic); }}},
+        {About, {.name = "mAbout", .menu = "mHelp", .caption = "&About Brindlepot", .separatorBefore = true,
+                 .run = [this] { showAbout(); }}},
+        {Web, {.name = "mWeb", .menu = "mHelp", .caption = "Tollenmark on the &Web", .separatorBefore = true,
+               .run = [this] { openWebSite(); }}},
     };
-    addActivity("mRecipeFiles", "&Recipe Files");
-    addActivity("mFoodGuide", "&Food Guide");
-    activities->addSeparator();
-    addActivity("mMeasGuide", "Food &Measurement Guide");
-    activities->addSeparator();
-    addActivity("mMenuPlanner", "Menu &Planner");
-    addActivity("mShoppingList", "&Shopping List Maker");
-    activities->addSeparator();
-    addActivity("mEmergency", "&Emergency Food Storage");
-    activities->addSeparator();
-    addActivity("mWeightTracker", "Weight Tracker");
-
-    QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
-    help->setObjectName(QStringLiteral("mHelp"));
-    connect(AddCommand(help, "mOverview", QStringLiteral("&Program Overview")), &QAction::triggered, this,
-            [this] { showHelp(kOverviewTopic); });
-    help->addSeparator();
-    connect(AddCommand(help, "mBackupRestore", QStringLiteral("&Backup and Restore Option")), &QAction::triggered,
-            this, [this] { showHelp(kBackupTopic); });
-    help->addSeparator();
-    connect(AddCommand(help, "mAbout", QStringLiteral("&About Brindlepot")), &QAction::triggered, this,
-            &Startfrm::showAbout);
-    help->addSeparator();
-    connect(AddCommand(help, "mWeb", QStringLiteral("Tollenmark on the &Web")), &QAction::triggered, this,
-            &Startfrm::openWebSite);
 }
 
 void Startfrm::buildCommandPanel()
@@ -189,14 +165,14 @@ void Startfrm::buildCommandPanel()
     auto* grid = new QGridLayout;
     grid->setSpacing(10);
     QFont buttonFont(QStringLiteral("Liberation Sans"), 11, QFont::Bold);
+    commands_ = std::make_unique<CommandTable<MainCommand>>(this, kMenus, commandRows(), nullptr, nullptr,
+                                                            commandPanel_);
     QWidget* previous = nullptr;
-    for (int i = 0; i < int(std::size(kButtons)); ++i) {
-        auto* button = new QPushButton(QString::fromLatin1(kButtons[i].caption), commandPanel_);
-        button->setObjectName(QStringLiteral("Command1_%1").arg(i));
+    const QList<QPushButton*> buttons = commands_->buttons();
+    for (int i = 0; i < buttons.size(); ++i) {
+        QPushButton* button = buttons[i];
         button->setFont(buttonFont);
         button->setMinimumSize(210, 46);
-        button->setAutoDefault(false);
-        BindButtonToAction(button, findChild<QAction*>(QString::fromLatin1(kButtons[i].action)));
         grid->addWidget(button, kButtonCell[i][0], kButtonCell[i][1]);
         if (previous)
             setTabOrder(previous, button); // tab order follows the index, not the grid
@@ -316,14 +292,14 @@ void Startfrm::centreCommandPanel()
 void Startfrm::updateDisplayTicks()
 {
     const bool windowed = Process().WindowedMode == kWindowedMode;
-    mFullScreen_->setChecked(!windowed);
-    mSmallerScreen_->setChecked(windowed);
-    mDefaultSize_->setChecked(false);
+    commands_->action(MainCommand::FullScreen)->setChecked(!windowed);
+    commands_->action(MainCommand::SmallerScreen)->setChecked(windowed);
+    commands_->action(MainCommand::DefaultSize)->setChecked(false);
 }
 
-void Startfrm::registerActivity(const char* actionName, ActivityHost::Factory factory)
+void Startfrm::registerActivity(MainCommand command, ActivityHost::Factory factory)
 {
-    activities_->add(findChild<QAction*>(QString::fromLatin1(actionName)), std::move(factory));
+    commands_->setRoutine(command, [this, factory = std::move(factory)] { activities_->open(factory); });
 }
 
 void Startfrm::focusGained()
@@ -494,5 +470,5 @@ void Startfrm::closeEvent(QCloseEvent* event)
 
 void Startfrm::contextMenuEvent(QContextMenuEvent* event)
 {
-    optionsMenu_->popup(event->globalPos());
+    commands_->menu("mOptions")->popup(event->globalPos());
 }

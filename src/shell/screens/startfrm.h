@@ -1,10 +1,12 @@
 #pragma once
 // The main screen. It stays for the life of the process and opens every
 // activity from its nine buttons or its menus.
+#include "shell/kit/commandtable.h"
 #include "shell/logic/background.h"
 #include "shell/screens/activityhost.h"
 
 #include <QMainWindow>
+#include <memory>
 
 class About1;
 class BackgroundSelector;
@@ -16,6 +18,13 @@ class QMenu;
 class QPushButton;
 class ScreenMetrics;
 class ScreenStatusBar;
+
+// The main screen's commands: its nine buttons and its menu entries.
+enum class MainCommand {
+    Background, FullScreen, SmallerScreen, DefaultSize, FamilyName, Exit,
+    RecipeFiles, FoodGuide, MeasGuide, MenuPlanner, ShoppingList, Emergency, WeightTracker,
+    Overview, BackupRestore, About, Web,
+};
 
 class Startfrm final : public QMainWindow {
     Q_OBJECT
@@ -30,9 +39,9 @@ public:
     // mode ticks, date form, background size, panel position, program folder.
     void focusGained();
 
-    // Makes the command `actionName` (a button and a menu entry) open its
-    // activity screen; commands without one stay disabled.
-    void registerActivity(const char* actionName, ActivityHost::Factory factory);
+    // Makes the command (a button and a menu entry) open its activity
+    // screen; commands without one stay disabled.
+    void registerActivity(MainCommand command, ActivityHost::Factory factory);
 
 signals:
     // The user confirmed "E&xit": the window is stored, the process ends.
@@ -46,7 +55,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void buildMenus();
+    std::vector<CommandRow<MainCommand>> commandRows();
     void buildCommandPanel();
 
     void runStart();
@@ -82,8 +91,5 @@ private:
     QFrame* commandPanel_ = nullptr;
     BackgroundSelector* backgroundSelector_ = nullptr;
     ScreenStatusBar* statusBar_ = nullptr;
-    QMenu* optionsMenu_ = nullptr;
-    QAction* mFullScreen_ = nullptr;
-    QAction* mSmallerScreen_ = nullptr;
-    QAction* mDefaultSize_ = nullptr;
+    std::unique_ptr<CommandTable<MainCommand>> commands_;
 };

@@ -1,0 +1,158 @@
+#include "shell/kit/commandtable.h"
+
+#include "shell/kit/commandbutton.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QToolBar>
+
+#include <algorithm>
+#include <cstring>
+#include <map>
+
+namespace {
+
+bool SameName(const char* a, const char* b)
+{
+    return a && b && std::strcmp(a, b) == 0;
+}
+
+} // namespace
+
+CommandSet::CommandSet(QMainWindow* window, std::span<const MenuRow> menus, std::vector<CommandSpec> rows,
+                       QToolBar* top, QToolBar* side, QWidget* buttonParent, const char* buttonName)
+    : rows_(std::move(rows))
+{
+    buildMenus(window, menus);
+    std::map<int, QActionGroup*> groups;
+    for (const CommandSpec& row : rows_) {
+        auto* action = new QAction(row.caption.isEmpty() ? row.button.caption : row.caption, window);
+        action->setObjectName(QString::fromLatin1(row.name));
+        if (row.menu) {
+            QMenu* menu = menuForEntry(row.menu);
+            if (row.separatorBefore)
+                menu->addSeparator();
+            menu->addAction(action);
+        } else {
+            // Without a menu entry the action still serves its shortcut.
+            window->addAction(action);
+        }
+        action->setCheckable(row.checkable || row.choiceGroup != 0);
+        if (row.choiceGroup != 0) {
+            QActionGroup*& group = groups[row.choiceGroup];
+            if (!group)
+                group = new QActionGroup(window);
+            group->addAction(action);
+        }
+        if (!row.shortcut.isEmpty())
+            action->setShortcut(row.shortcut);
+        QObject::connect(action, &QAction::triggered, window, [this, index = actions_.size()] {
+            if (const std::function<void()>& run = rows_[index].run)
+                run();
+        });
+        actions_.push_back(action);
+
+        QPushButton* button = nullptr;
+        if (!row.button.caption.isEmpty()) {
+            button = new QPushButton(row.button.caption, buttonParent);
+            const QString name = QString::fromLatin1(buttonName);
+            button->setObjectName(name.contains(QLatin1String("%1")) ? name.arg(row.button.index) : name);
+            button->setAutoDefault(false);
+            BindButtonToAction(button, action);
+        }
+        buttons_.push_back(button);
+    }
+    buildToolbar(top, Toolbar::Top);
+    buildToolbar(side, Toolbar::Side);
+    refresh();
+}
+
+void CommandSet::buildMenus(QMainWindow* window, std::span<const MenuRow> menus)
+{
+    menuRows_.assign(menus.begin(), menus.end());
+    for (const MenuRow& row : menus) {
+        if (row.parent)
+            continue; // a submenu comes with its first entry
+        QMenu* menu = window->menuBar()->addMenu(QString::fromLatin1(row.caption));
+        menu->setObjectName(QString::fromLatin1(row.name));
+        menus_.emplace_back(row.name, menu);
+    }
+}
+
+// The menu named `name`; a submenu is made in its parent on first use, so
+// it stands among the parent's entries where the table puts it.
+QMenu* CommandSet::menuForEntry(const char* name)
+{
+    if (QMenu* existing = menu(name))
+        return existing;
+    const auto row = std::find_if(menuRows_.begin(), menuRows_.end(),
+                                  [name](const MenuRow& menuRow) { return SameName(menuRow.name, name); });
+    Q_ASSERT_X(row != menuRows_.end() && row->parent, "CommandSet", name);
+    QMenu* parent = menuForEntry(row->parent);
+    if (row->separatorBefore)
+        parent->addSeparator();
+    QMenu* submenu = parent->addMenu(QString::fromLatin1(row->caption));
+    submenu->setObjectName(QString::fromLatin1(row->name));
+    menus_.emplace_back(row->name, submenu);
+    return submenu;
+}
+
+QMenu* CommandSet::menu(const char* name) const
+{
+    for (const auto& [menuName, menu] : menus_) {
+        if (SameName(menuName, name))
+            return menu;
+    }
+    return nullptr;
+}
+
+void CommandSet::buildToolbar(QToolBar* toolbar, Toolbar which)
+{
+    if (!toolbar)
+        return;
+    std::vector<size_t> placed;
+    for (size_t i = 0; i < rows_.size(); ++i) {
+        if (rows_[i].toolbar.toolbar == which)
+            placed.push_back(i);
+    }
+    std::stable_sort(placed.begin(), placed.end(), [this](size_t a, size_t b) {
+        return rows_[a].toolbar.position < rows_[b].toolbar.position;
+    });
+    for (const size_t i : placed) {
+        if (rows_[i].toolbar.gapBefore)
+            toolbar->addSeparator();
+        toolbar->addAction(actions_[i]);
+    }
+}
+
+void CommandSet::refresh()
+{
+    for (size_t i = 0; i < rows_.size(); ++i) {
+        const CommandSpec& row = rows_[i];
+        actions_[i]->setEnabled(row.run && (!row.enabled || row.enabled()));
+    }
+}
+
+QList<QPushButton*> CommandSet::buttons() const
+{
+    std::vector<std::pair<int, QPushButton*>> indexed;
+    for (size_t i = 0; i < rows_.size(); ++i) {
+        if (buttons_[i])
+            indexed.emplace_back(rows_[i].button.index, buttons_[i]);
+    }
+    std::sort(indexed.begin(), indexed.end());
+    QList<QPushButton*> ordered;
+    for (const auto& [index, button] : indexed)
+        ordered.append(button);
+    return ordered;
+}
+
+void CommandSet::setRoutineAt(int row, std::function<void()> run)
+{
+    rows_[size_t(row)].run = std::move(run);
+    refresh();
+}
