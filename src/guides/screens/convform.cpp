@@ -1,10 +1,9 @@
 #include "guides/screens/convform.h"
 
 #include "common/dialogs.h"
-#include "shell/logic/gridcolors.h"
-#include "shell/kit/gridcolors.h"
 #include "shell/kit/helpwindow.h"
 #include "shell/kit/panelcolors.h"
+#include "shell/kit/screengrid.h"
 #include "shell/kit/screenstatusbar.h"
 
 #include <QEvent>
@@ -15,7 +14,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
-#include <QTableWidget>
 
 Convform::Convform(Dialogs& dialogs, QWidget* parent) : ActivityWindow(parent), dialogs_(dialogs)
 {
@@ -44,7 +42,7 @@ Convform::Convform(Dialogs& dialogs, QWidget* parent) : ActivityWindow(parent), 
                            static_cast<QWidget*>(commandPanel)})
         panelColors_->addPanel(panel);
     panelColors_->applyStored();
-    ApplyGridColors(grid_, ReadSharedGridColors());
+    grid_->applySharedColors();
     connect(findChild<QAction*>(QStringLiteral("mPanelColor")), &QAction::triggered, panelColors_,
             &PanelColors::choosePanelColor);
     connect(findChild<QAction*>(QStringLiteral("mHelp")), &QAction::triggered, this,
@@ -96,16 +94,10 @@ void Convform::showMultiple(const ConversionOption& option)
     if (range.endingBoxText)
         text2_->setText(*range.endingBoxText);
     const QList<ConversionRow> rows = ConvertRange(option, range, roundMode_);
-    grid_->clearContents();
+    grid_->clearRows();
     grid_->setRowCount(int(rows.size()));
-    for (int row = 0; row < rows.size(); ++row) {
-        const QString cells[2] = {rows[row].amount, rows[row].converted};
-        for (int column = 0; column < 2; ++column) {
-            auto* item = new QTableWidgetItem(cells[column]);
-            item->setTextAlignment(Qt::AlignCenter);
-            grid_->setItem(row, column, item);
-        }
-    }
+    for (int row = 0; row < int(rows.size()); ++row)
+        grid_->setRowTexts(row, {rows[row].amount, rows[row].converted});
     label1_->setText(QString::fromLatin1(option.fromUnit) + QStringLiteral(" = "));
     label2_->setText(QString::fromLatin1(option.toUnit));
     label1_->show();
@@ -136,8 +128,7 @@ void Convform::setMultipleEntry(bool multiple)
     label2_->hide();
     resultPanel_->clear();
     resultPanel_->hide();
-    grid_->clearContents();
-    grid_->setRowCount(0);
+    grid_->clearRows();
     text1Caption_->setText(EntryCaption(multiple));
     text2Caption_->setVisible(multiple);
     text2_->setVisible(multiple);

@@ -18,7 +18,7 @@ class QFrame;
 class QLabel;
 class QLineEdit;
 class QMenu;
-class QTableWidget;
+class ScreenGrid;
 class ScreenStatusBar;
 
 class Convform final : public ActivityWindow {
@@ -68,7 +68,7 @@ private:
     QLabel* label2_ = nullptr;               // Label2: to unit
     QLabel* resultPanel_ = nullptr;          // Panel3D1
     QFrame* gridPanel_ = nullptr;
-    QTableWidget* grid_ = nullptr;           // Grid1
+    ScreenGrid* grid_ = nullptr;             // Grid1
     QBoxLayout* resultRow_ = nullptr;        // where the unit labels stand in single entry
     QBoxLayout* gridLabelRow_ = nullptr;     // and in multiple entry
     QButtonGroup* options_ = nullptr;

@@ -2,9 +2,9 @@
 
 #include "shell/kit/commandbutton.h"
 #include "shell/logic/processvalues.h"
-#include "shell/kit/gridcolors.h"
 #include "shell/kit/helpwindow.h"
 #include "shell/kit/panelcolors.h"
+#include "shell/kit/screengrid.h"
 #include "shell/kit/screenstatusbar.h"
 #include "shell/kit/screentoolbars.h"
 
@@ -16,7 +16,6 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
-#include <QTableWidget>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -74,10 +73,8 @@ Foodg::Foodg(Dialogs& dialogs, QWidget* parent) : ActivityWindow(parent), dialog
     titleFont.setBold(true);
     title_->setFont(titleFont);
 
-    grid_ = new QTableWidget(central);
-    grid_->setObjectName(QStringLiteral("VSGd1"));
-    grid_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    grid_->setSelectionMode(QAbstractItemView::NoSelection);
+    grid_ = new ScreenGrid(QStringLiteral("VSGd1"), central);
+    grid_->setSelectionKind(ScreenGrid::Selection::None);
     grid_->setFocusPolicy(Qt::NoFocus);
     grid_->setWordWrap(true);
     grid_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -92,7 +89,7 @@ Foodg::Foodg(Dialogs& dialogs, QWidget* parent) : ActivityWindow(parent), dialog
     headingFont.setBold(true);
     grid_->horizontalHeader()->setFont(headingFont);
     grid_->viewport()->installEventFilter(this);
-    ApplyGridColors(grid_, ReadSharedGridColors());
+    grid_->applySharedColors();
 
     auto* commands = RaisedPanel("SSPanel2", central);
     auto* buttons = new QHBoxLayout(commands);
@@ -172,21 +169,13 @@ void Foodg::showPage(FoodGuidePage page)
     page_ = page;
     const GuidePage& shown = FoodGuidePageOf(page);
     title_->setText(shown.title);
-    grid_->clear();
-    grid_->setColumnCount(int(shown.columns.size()));
-    grid_->setRowCount(int(shown.rows.size()));
+    grid_->clearRows();
     QStringList headings;
     for (const GuideColumn& column : shown.columns)
         headings.append(column.heading);
-    grid_->setHorizontalHeaderLabels(headings);
-    for (int column = 0; column < grid_->columnCount(); ++column) {
-        for (int row = 0; row < grid_->rowCount(); ++row) {
-            auto* item = new QTableWidgetItem(shown.rows[row].value(column));
-            item->setFlags(Qt::ItemIsEnabled);
-            item->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-            grid_->setItem(row, column, item);
-        }
-    }
+    grid_->setHeadings(headings);
+    for (int row = 0; row < int(shown.rows.size()); ++row)
+        grid_->setRowTexts(row, shown.rows[row]);
     grid_->scrollToTop();
     fitColumns();
 }

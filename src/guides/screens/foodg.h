@@ -9,7 +9,7 @@
 class Dialogs;
 class PanelColors;
 class QLabel;
-class QTableWidget;
+class ScreenGrid;
 class ScreenStatusBar;
 
 class Foodg final : public ActivityWindow {
@@ -38,6 +38,6 @@ private:
     ScreenStatusBar* statusBar_ = nullptr;
     PanelColors* panelColors_ = nullptr;
     QLabel* title_ = nullptr;          // SSPanel1: the page's title
-    QTableWidget* grid_ = nullptr;     // VSGd1
+    ScreenGrid* grid_ = nullptr;       // VSGd1
     FoodGuidePage page_ = FoodGuidePage::FoodGuide;
 };
