@@ -2,7 +2,7 @@
 // delivered files into a folder (a first run, and a later run that finds them
 // all), building Startfrm and showing it.
 #include "common/programfolder.h"
-#include "common/widgets/qtdialogs.h"
+#include "shell/kit/qtdialogs.h"
 #include "shell/logic/deliveredfiles.h"
 #include "shell/logic/processvalues.h"
 #include "shell/screens/screenmetrics.h"

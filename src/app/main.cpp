@@ -1,9 +1,9 @@
 // Brindlepot: a kitchen program for the family.
 #include "common/programfolder.h"
-#include "common/widgets/qtdialogs.h"
 #include "guides/screens/convform.h"
 #include "guides/screens/foodg.h"
 #include "recipetools/screens/form5.h"
+#include "shell/kit/qtdialogs.h"
 #include "shell/logic/deliveredfiles.h"
 #include "shell/screens/screenmetrics.h"
 #include "shell/screens/startfrm.h"

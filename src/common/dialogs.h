@@ -1,8 +1,8 @@
 #pragma once
-// Every message box, question, input box, colour, font, page setup and print
-// dialog of the program goes through this one interface, so that titles, texts, buttons and
-// defaults are contracts that tests can read back. The real implementation shows Qt dialogs; tests
-// use a scripted one.
+// Every message box, question, input box, colour, font, folder, page setup
+// and print dialog of the program goes through this one interface, so that
+// titles, texts, buttons and defaults are contracts that tests can read back.
+// The real implementation shows Qt dialogs; tests use a scripted one.
 #include "common/pagesetup.h"
 #include "common/textfont.h"
 
@@ -40,6 +40,14 @@ struct InputRequest {
     bool operator==(const InputRequest&) const = default;
 };
 
+struct FolderRequest {
+    QString title;
+    // Where the choice starts; the home folder when it does not exist.
+    QString startFolder;
+
+    bool operator==(const FolderRequest&) const = default;
+};
+
 struct PrintJob {
     QString title;
     PageSetup setup;
@@ -64,6 +72,9 @@ public:
     // The font dialog, preset from `initial`: the font chosen, or nothing
     // when the user cancelled.
     virtual std::optional<TextFont> chooseFont(const TextFont& initial) = 0;
+    // A folder chooser with drive and folder lists: the folder chosen, or
+    // nothing when the user cancelled.
+    virtual std::optional<QString> chooseFolder(const FolderRequest& request) = 0;
     // The printer's page setup dialog: the paper and orientation chosen, or
     // nothing when the user cancelled.
     virtual std::optional<PageSetup> pageSetup(const PageSetup& current) = 0;

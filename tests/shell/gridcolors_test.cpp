@@ -1,11 +1,8 @@
-// Grid background and text colour: the slot texts and how a grid shows them.
+// Grid background and text colour: the slot texts.
 #include "shell/logic/gridcolors.h"
-#include "shell/kit/gridcolors.h"
 #include "temp_program_folder.h"
 #include "raw_slots.h"
 
-#include <QImage>
-#include <QTableWidget>
 #include <gtest/gtest.h>
 
 namespace {
@@ -61,39 +58,4 @@ TEST(GridColors, TheSharedPairIsGColor1Slots28And29)
     EXPECT_EQ(colors.pictureFile, "WP5.jpg");
     EXPECT_EQ(colors.textColor, 65535);
     EXPECT_EQ(ReadGridColors(RawSlot(GColor1, 71), RawSlot(GColor1, 72)), GridColors{}) << "a screen's own empty pair";
-}
-
-TEST(ApplyGridColors, AColourBecomesTheCellBackground)
-{
-    QTableWidget grid(3, 2);
-    ApplyGridColors(&grid, GridColorsOf(u"255", u"16711680"));
-    EXPECT_EQ(grid.palette().color(QPalette::Base), QColor(255, 0, 0));
-    EXPECT_EQ(grid.palette().color(QPalette::Text), QColor(0, 0, 255));
-}
-
-TEST(ApplyGridColors, APictureFillsTheBackgroundFoundInAnyCase)
-{
-    TempProgramFolder folder;
-    QImage picture(40, 30, QImage::Format_RGB32);
-    picture.fill(QColor(10, 200, 30));
-    ASSERT_TRUE(picture.save(folder.filePath("WP3.jpg")));
-    QTableWidget grid(3, 2);
-    ApplyGridColors(&grid, GridColorsOf(u"wp3", u"Default"));
-    const QBrush brush = grid.palette().brush(QPalette::Base);
-    ASSERT_FALSE(brush.texture().isNull());
-    EXPECT_EQ(brush.texture().size(), QSize(40, 30));
-}
-
-TEST(ApplyGridColors, DefaultEmptyAndAMissingPictureLeaveTheGridAsItIs)
-{
-    TempProgramFolder folder;
-    QTableWidget grid(3, 2);
-    QPalette own = grid.palette();
-    own.setColor(QPalette::Base, QColor(1, 2, 3));
-    grid.setPalette(own);
-    for (const char* background : {"Default", "", "WP9"}) {
-        ApplyGridColors(&grid, GridColorsOf(QString::fromLatin1(background), u""));
-        EXPECT_EQ(grid.palette().color(QPalette::Base), QColor(1, 2, 3)) << background;
-        EXPECT_TRUE(grid.palette().brush(QPalette::Base).texture().isNull()) << background;
-    }
 }

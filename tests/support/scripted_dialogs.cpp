@@ -30,6 +30,11 @@ void ScriptedDialogs::expectFont(std::optional<TextFont> reply)
     script_.push_back(ExpectedFont{std::move(reply)});
 }
 
+void ScriptedDialogs::expectFolder(std::optional<QString> reply)
+{
+    script_.push_back(ExpectedFolder{std::move(reply)});
+}
+
 void ScriptedDialogs::expectPageSetup(std::optional<PageSetup> reply)
 {
     script_.push_back(ExpectedPageSetup{reply});
@@ -100,6 +105,13 @@ std::optional<TextFont> ScriptedDialogs::chooseFont(const TextFont& initial)
 {
     fontRequests_.append(initial);
     const auto expected = next<ExpectedFont>("font dialog");
+    return expected ? expected->reply : std::nullopt;
+}
+
+std::optional<QString> ScriptedDialogs::chooseFolder(const FolderRequest& request)
+{
+    folderRequests_.append(request);
+    const auto expected = next<ExpectedFolder>("folder chooser \"" + request.title.toStdString() + "\"");
     return expected ? expected->reply : std::nullopt;
 }
 

@@ -22,6 +22,8 @@ public:
 
     // Expect the font dialog; pick `reply`, or cancel it with nothing.
     void expectFont(std::optional<TextFont> reply);
+    // Expect the folder chooser; choose `reply`, or cancel it with nothing.
+    void expectFolder(std::optional<QString> reply);
     // Expect the page setup dialog; accept `reply`, or cancel it with nothing.
     void expectPageSetup(std::optional<PageSetup> reply);
     // Expect the print dialog; "print to file" into the PDF `pdfPath`, or
@@ -33,6 +35,7 @@ public:
     void openUrl(const QUrl& url) override;
     std::optional<qint32> chooseColor(qint32 initial) override;
     std::optional<TextFont> chooseFont(const TextFont& initial) override;
+    std::optional<QString> chooseFolder(const FolderRequest& request) override;
     std::optional<PageSetup> pageSetup(const PageSetup& current) override;
     bool print(const PrintJob& job) override;
 
@@ -42,6 +45,8 @@ public:
     // The colour each colour dialog was opened on, in order.
     const QList<qint32>& colorRequests() const { return colorRequests_; }
     const QList<TextFont>& fontRequests() const { return fontRequests_; }
+    // Title and starting folder of each folder chooser, in order.
+    const QList<FolderRequest>& folderRequests() const { return folderRequests_; }
     const QList<PageSetup>& pageSetupRequests() const { return pageSetupRequests_; }
     // Title, page setup and page count of each print dialog, in order.
     const QList<PrintJob>& printJobs() const { return printJobs_; }
@@ -52,10 +57,11 @@ private:
     struct ExpectedInput { QString title, reply; };
     struct ExpectedColor { std::optional<qint32> reply; };
     struct ExpectedFont { std::optional<TextFont> reply; };
+    struct ExpectedFolder { std::optional<QString> reply; };
     struct ExpectedPageSetup { std::optional<PageSetup> reply; };
     struct ExpectedPrint { QString pdfPath; };
-    using Expected = std::variant<ExpectedMessage, ExpectedInput, ExpectedColor, ExpectedFont, ExpectedPageSetup,
-                                  ExpectedPrint>;
+    using Expected = std::variant<ExpectedMessage, ExpectedInput, ExpectedColor, ExpectedFont, ExpectedFolder,
+                                  ExpectedPageSetup, ExpectedPrint>;
     // The next scripted step when it is a `T`; else the test fails with `what`.
     template <typename T> std::optional<T> next(const std::string& what);
     std::deque<Expected> script_;
@@ -64,6 +70,7 @@ private:
     QList<QUrl> urls_;
     QList<qint32> colorRequests_;
     QList<TextFont> fontRequests_;
+    QList<FolderRequest> folderRequests_;
     QList<PageSetup> pageSetupRequests_;
     QList<PrintJob> printJobs_;
 };

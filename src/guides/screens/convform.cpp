@@ -1,8 +1,7 @@
 #include "guides/screens/convform.h"
 
 #include "common/dialogs.h"
-#include "shell/logic/gridcolors.h"
-#include "shell/kit/gridcolors.h"
+#include "shell/kit/screengrid.h"
 #include "shell/kit/screenstatusbar.h"
 
 #include <QEvent>
@@ -12,7 +11,6 @@
 #include <QButtonGroup>
 #include <QLabel>
 #include <QLineEdit>
-#include <QTableWidget>
 
 Convform::Convform(Dialogs& dialogs, QWidget* parent)
     : ActivityWindow(dialogs, {"Convform", Settings::MainPanelColor, kHelpTopic}, parent)
@@ -31,7 +29,7 @@ Convform::Convform(Dialogs& dialogs, QWidget* parent)
     layout->addWidget(commandPanel);
 
     addColouredPanels(colouredPanels_ + QList<QWidget*>{entryPanel, gridPanel_, commandPanel});
-    ApplyGridColors(grid_, ReadSharedGridColors());
+    grid_->applySharedColors();
 
     setMultipleEntry(false);
     screenStatusBar()->setActivity(windowTitle());
@@ -79,16 +77,10 @@ void Convform::showMultiple(const ConversionOption& option)
     if (range.endingBoxText)
         text2_->setText(*range.endingBoxText);
     const QList<ConversionRow> rows = ConvertRange(option, range, roundMode_);
-    grid_->clearContents();
+    grid_->clearRows();
     grid_->setRowCount(int(rows.size()));
-    for (int row = 0; row < rows.size(); ++row) {
-        const QString cells[2] = {rows[row].amount, rows[row].converted};
-        for (int column = 0; column < 2; ++column) {
-            auto* item = new QTableWidgetItem(cells[column]);
-            item->setTextAlignment(Qt::AlignCenter);
-            grid_->setItem(row, column, item);
-        }
-    }
+    for (int row = 0; row < int(rows.size()); ++row)
+        grid_->setRowTexts(row, {rows[row].amount, rows[row].converted});
     label1_->setText(QString::fromLatin1(option.fromUnit) + QStringLiteral(" = "));
     label2_->setText(QString::fromLatin1(option.toUnit));
     label1_->show();
@@ -118,8 +110,7 @@ void Convform::setMultipleEntry(bool multiple)
     label2_->hide();
     resultPanel_->clear();
     resultPanel_->hide();
-    grid_->clearContents();
-    grid_->setRowCount(0);
+    grid_->clearRows();
     text1Caption_->setText(EntryCaption(multiple));
     text2Caption_->setVisible(multiple);
     text2_->setVisible(multiple);

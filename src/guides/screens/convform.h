@@ -14,7 +14,7 @@ class QButtonGroup;
 class QFrame;
 class QLabel;
 class QLineEdit;
-class QTableWidget;
+class ScreenGrid;
 
 enum class ConvformCommand {
     SingleEntry, MultipleEntry, Round1, Round2, Round3, Round4, Round5, PanelColor, Exit, Help,
@@ -64,7 +64,7 @@ private:
     QLabel* label2_ = nullptr;               // Label2: to unit
     QLabel* resultPanel_ = nullptr;          // Panel3D1
     QFrame* gridPanel_ = nullptr;
-    QTableWidget* grid_ = nullptr;           // Grid1
+    ScreenGrid* grid_ = nullptr;             // Grid1
     QBoxLayout* resultRow_ = nullptr;        // where the unit labels stand in single entry
     QBoxLayout* gridLabelRow_ = nullptr;     // and in multiple entry
     QButtonGroup* options_ = nullptr;

@@ -4,6 +4,7 @@
 #include "common/dialogs.h"
 #include "common/widgets/twips.h"
 #include "shell/kit/raisedpanel.h"
+#include "shell/kit/screengrid.h"
 
 #include <QAction>
 #include <QBoxLayout>
@@ -16,7 +17,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
-#include <QTableWidget>
 
 namespace {
 
@@ -188,14 +188,15 @@ QFrame* Convform::buildGridPanel(QWidget* parent)
     auto* heading = BoldLabel(MultipleEntryHeading(), gridPanel_, "Label3");
     heading->setAlignment(Qt::AlignCenter);
     column->addWidget(heading);
-    grid_ = new QTableWidget(0, 2, gridPanel_);
-    grid_->setObjectName(QStringLiteral("Grid1"));
+    grid_ = new ScreenGrid(QStringLiteral("Grid1"), gridPanel_);
+    grid_->setColumnCount(2);
+    grid_->setColumnAlignment(0, Qt::AlignCenter);
+    grid_->setColumnAlignment(1, Qt::AlignCenter);
     grid_->horizontalHeader()->hide();
     grid_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     grid_->verticalHeader()->hide();
     grid_->verticalHeader()->setDefaultSectionSize(grid_->fontMetrics().height() + 6);
-    grid_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    grid_->setSelectionMode(QAbstractItemView::NoSelection);
+    grid_->setSelectionKind(ScreenGrid::Selection::None);
     // The grid is as wide as its heading, so each half of the heading stands
     // over its column.
     grid_->setFixedWidth(heading->sizeHint().width() + grid_->verticalScrollBar()->sizeHint().width()

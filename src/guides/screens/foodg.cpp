@@ -1,8 +1,8 @@
 #include "guides/screens/foodg.h"
 
 #include "shell/logic/processvalues.h"
-#include "shell/kit/gridcolors.h"
 #include "shell/kit/raisedpanel.h"
+#include "shell/kit/screengrid.h"
 #include "shell/kit/screenstatusbar.h"
 
 #include <QEvent>
@@ -10,7 +10,6 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QTableWidget>
 #include <QVBoxLayout>
 
 namespace {
@@ -75,10 +74,8 @@ Foodg::Foodg(Dialogs& dialogs, QWidget* parent)
     titleFont.setBold(true);
     title_->setFont(titleFont);
 
-    grid_ = new QTableWidget(central);
-    grid_->setObjectName(QStringLiteral("VSGd1"));
-    grid_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    grid_->setSelectionMode(QAbstractItemView::NoSelection);
+    grid_ = new ScreenGrid(QStringLiteral("VSGd1"), central);
+    grid_->setSelectionKind(ScreenGrid::Selection::None);
     grid_->setFocusPolicy(Qt::NoFocus);
     grid_->setWordWrap(true);
     grid_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -93,7 +90,7 @@ Foodg::Foodg(Dialogs& dialogs, QWidget* parent)
     headingFont.setBold(true);
     grid_->horizontalHeader()->setFont(headingFont);
     grid_->viewport()->installEventFilter(this);
-    ApplyGridColors(grid_, ReadSharedGridColors());
+    grid_->applySharedColors();
 
     QFrame* commands = MakeRaisedPanel(QStringLiteral("SSPanel2"), central);
     commands_ = makeCommands<FoodgCommand>(kMenus, commandRows(), commands);
@@ -116,21 +113,13 @@ void Foodg::showPage(FoodGuidePage page)
     page_ = page;
     const GuidePage& shown = FoodGuidePageOf(page);
     title_->setText(shown.title);
-    grid_->clear();
-    grid_->setColumnCount(int(shown.columns.size()));
-    grid_->setRowCount(int(shown.rows.size()));
+    grid_->clearRows();
     QStringList headings;
     for (const GuideColumn& column : shown.columns)
         headings.append(column.heading);
-    grid_->setHorizontalHeaderLabels(headings);
-    for (int column = 0; column < grid_->columnCount(); ++column) {
-        for (int row = 0; row < grid_->rowCount(); ++row) {
-            auto* item = new QTableWidgetItem(shown.rows[row].value(column));
-            item->setFlags(Qt::ItemIsEnabled);
-            item->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-            grid_->setItem(row, column, item);
-        }
-    }
+    grid_->setHeadings(headings);
+    for (int row = 0; row < int(shown.rows.size()); ++row)
+        grid_->setRowTexts(row, shown.rows[row]);
     grid_->scrollToTop();
     fitColumns();
 }

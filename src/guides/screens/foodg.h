@@ -6,7 +6,7 @@
 #include "shell/kit/activitywindow.h"
 
 class QLabel;
-class QTableWidget;
+class ScreenGrid;
 
 enum class FoodgCommand {
     FoodGuide, CommonMeasures, MenuIdeas, HelpfulHints, HealthySubstitutes, PanelColor, Exit, Help,
@@ -34,6 +34,6 @@ private:
 
     std::unique_ptr<CommandTable<FoodgCommand>> commands_;
     QLabel* title_ = nullptr;          // SSPanel1: the page's title
-    QTableWidget* grid_ = nullptr;     // VSGd1
+    ScreenGrid* grid_ = nullptr;       // VSGd1
     FoodGuidePage page_ = FoodGuidePage::FoodGuide;
 };

@@ -1,27 +1,22 @@
 #include "recipetools/screens/searchresults.h"
 
 #include "cookbook/logic/nameentry.h"
-#include "shell/kit/gridcolors.h"
 #include "shell/kit/screenbusy.h"
+#include "shell/kit/screengrid.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QTableWidget>
 #include <QVBoxLayout>
 
 namespace {
 
-QTableWidget* MakeGrid(const QString& objectName, const QString& typeHeading, QWidget* parent)
+ScreenGrid* MakeGrid(const QString& objectName, const QString& typeHeading, QWidget* parent)
 {
-    auto* grid = new QTableWidget(0, 2, parent);
-    grid->setObjectName(objectName);
-    grid->setHorizontalHeaderLabels({typeHeading, QStringLiteral("Recipe Name")});
-    grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    grid->setSelectionBehavior(QAbstractItemView::SelectRows);
-    grid->setSelectionMode(QAbstractItemView::SingleSelection);
-    grid->setSortingEnabled(false);
+    auto* grid = new ScreenGrid(objectName, parent);
+    grid->setHeadings({typeHeading, QStringLiteral("Recipe Name")});
+    grid->setSelectionKind(ScreenGrid::Selection::Rows);
     grid->setWordWrap(false);
     grid->verticalHeader()->hide();
     grid->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Interactive);
@@ -63,7 +58,7 @@ SearchResults::SearchResults(const Names& names, EmptySearch emptySearch, QWidge
     closeButton->setObjectName(names.close);
 
     connect(viewSelected_, &QPushButton::clicked, this, &SearchResults::viewSelected);
-    connect(grid_, &QTableWidget::cellDoubleClicked, this, [this](int row, int) {
+    connect(grid_, &ScreenGrid::cellDoubleClicked, this, [this](int row, int) {
         grid_->selectRow(row);
         viewSelected();
     });
@@ -87,8 +82,7 @@ void SearchResults::reset()
     countLabel_->hide();
     if (emptySearch_ == EmptySearch::DisablesViewSelected)
         viewSelected_->setEnabled(false);
-    grid_->clearContents();
-    grid_->setRowCount(0);
+    grid_->clearRows();
 }
 
 void SearchResults::showHits(const QList<SearchHit>& hits, const QString& countText)
@@ -97,10 +91,8 @@ void SearchResults::showHits(const QList<SearchHit>& hits, const QString& countT
     grid_->setRowCount(int(hits.size()));
     for (int row = 0; row < int(hits.size()); ++row) {
         const SearchHit& hit = hits[row];
-        grid_->setItem(row, 0, new QTableWidgetItem(hit.typeName));
-        auto* name = new QTableWidgetItem(RecipeNameOf(hit.entry));
-        name->setData(Qt::UserRole, hit.entry);
-        grid_->setItem(row, 1, name);
+        grid_->setRowTexts(row, {hit.typeName, RecipeNameOf(hit.entry)});
+        grid_->setValue(row, 1, hit.entry);
     }
     if (hits.isEmpty()) {
         noMatchPanel_->show();
@@ -130,16 +122,14 @@ std::optional<SearchHit> SearchResults::selectedHit() const
     if (ranges.isEmpty())
         return std::nullopt;
     const int row = ranges.first().topRow();
-    const QTableWidgetItem* type = grid_->item(row, 0);
-    const QTableWidgetItem* name = grid_->item(row, 1);
-    if (!type || !name)
+    if (!grid_->item(row, 0) || !grid_->item(row, 1))
         return std::nullopt;
-    return SearchHit{type->text(), name->data(Qt::UserRole).toString()};
+    return SearchHit{grid_->text(row, 0), grid_->value(row, 1).toString()};
 }
 
 void SearchResults::showEvent(QShowEvent* event)
 {
-    ApplyGridColors(grid_, ReadSharedGridColors());
+    grid_->applySharedColors();
     QWidget::showEvent(event);
 }
 

@@ -5,6 +5,7 @@
 // the whole entry, record number and all, in the cell's Qt::UserRole, so the
 // number stays out of sight and still goes back to the recipe screen.
 #include "recipetools/logic/recipesearch.h"
+#include "shell/kit/screengrid.h"
 
 #include <QWidget>
 #include <functional>
@@ -12,7 +13,6 @@
 
 class QLabel;
 class QPushButton;
-class QTableWidget;
 
 class SearchResults final : public QWidget {
     Q_OBJECT
@@ -40,7 +40,7 @@ public:
              const std::function<QString(qsizetype)>& countText);
     // The selected row; nothing when no row is selected.
     std::optional<SearchHit> selectedHit() const;
-    QTableWidget* grid() const { return grid_; }
+    ScreenGrid* grid() const { return grid_; }
 
 signals:
     // "&View Selected Recipe" or a double click, only with a row selected.
@@ -56,7 +56,7 @@ private:
     void viewSelected();
 
     EmptySearch emptySearch_;
-    QTableWidget* grid_ = nullptr;
+    ScreenGrid* grid_ = nullptr;
     QLabel* countLabel_ = nullptr;
     QLabel* noMatchPanel_ = nullptr;
     QPushButton* viewSelected_ = nullptr;

@@ -5,7 +5,8 @@ class QWidget;
 
 // The real dialogs: QMessageBox and QInputDialog with the exact title, text,
 // icon, buttons and default button asked for; QColorDialog for colours; the
-// font dialog with a colour list; Qt's page setup and print dialogs.
+// font dialog with a colour list; the folder chooser panel in a dialog of its
+// own; Qt's page setup and print dialogs.
 class QtDialogs final : public Dialogs {
 public:
     Answer ask(const Message& message) override;
@@ -13,6 +14,7 @@ public:
     void openUrl(const QUrl& url) override;
     std::optional<qint32> chooseColor(qint32 initial) override;
     std::optional<TextFont> chooseFont(const TextFont& initial) override;
+    std::optional<QString> chooseFolder(const FolderRequest& request) override;
     std::optional<PageSetup> pageSetup(const PageSetup& current) override;
     bool print(const PrintJob& job) override;
 };

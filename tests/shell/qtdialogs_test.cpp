@@ -1,16 +1,21 @@
 // The real dialogs show exactly the title, text, icon, buttons and default
-// asked for, and answer with the classic numbers.
-#include "common/clock.h"
-#include "common/widgets/qtcolors.h"
-#include "common/widgets/qtdialogs.h"
+// asked for, and answer with the classic numbers; the folder chooser gives
+// the folder or nothing.
+#include "shell/kit/folderchooser.h"
+#include "shell/kit/qtdialogs.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QColorDialog>
+#include <QDialogButtonBox>
+#include <QDir>
 #include <QInputDialog>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
 #include <QTimer>
 #include <functional>
 #include <gtest/gtest.h>
@@ -122,21 +127,57 @@ TEST(QtDialogs, CancelledColorDialogGivesNothing)
     EXPECT_EQ(dialogs.chooseColor(0xFF0000), std::nullopt);
 }
 
-TEST(QtColors, ColorrefAndQColorRoundTrip)
+TEST(QtDialogs, FolderChooserOpensOnTheStartFolderAndGivesTheChosenOne)
 {
-    EXPECT_EQ(ColorrefFromColor(QColor(0, 0, 255)), 16711680);
-    EXPECT_EQ(ColorrefFromColor(QColor(255, 0, 0)), 255);
-    EXPECT_EQ(ColorrefFromColor(QColor(255, 0, 0, 40)), 255) << "alpha is dropped";
-    EXPECT_EQ(ColorrefFromColor(ColorFromColorref(0x00C0FFEE)), 0x00C0FFEE);
-    EXPECT_EQ(ColorFromColorref(0x800000), QColor(0, 0, 128));
+    QTemporaryDir root;
+    ASSERT_TRUE(QDir(root.path()).mkdir("Backups"));
+    QtDialogs dialogs;
+    QString title, shownFirst;
+    bool filesShown = true;
+    bool enterKeptOpen = false;
+    WhenModalShows([&](QWidget* modal) {
+        auto* dialog = qobject_cast<QDialog*>(modal);
+        ASSERT_NE(dialog, nullptr);
+        title = dialog->windowTitle();
+        auto* panel = dialog->findChild<FolderChooserPanel*>();
+        ASSERT_NE(panel, nullptr);
+        shownFirst = panel->folder();
+        filesShown = !panel->findChild<QListView*>("File1")->isHidden();
+        // Enter in the folder list goes into the folder and leaves the dialog open.
+        auto* folders = panel->findChild<QListView*>("Dir1");
+        const auto backups = [folders] {
+            const QModelIndex top = folders->rootIndex();
+            for (int row = 0; row < folders->model()->rowCount(top); ++row) {
+                const QModelIndex index = folders->model()->index(row, 0, top);
+                if (index.data().toString() == "Backups")
+                    return index;
+            }
+            return QModelIndex();
+        };
+        for (int tries = 0; tries < 500 && !backups().isValid(); ++tries)
+            QTest::qWait(10);
+        ASSERT_TRUE(backups().isValid());
+        folders->setCurrentIndex(backups());
+        QTest::keyClick(folders, Qt::Key_Return);
+        enterKeptOpen = dialog->isVisible();
+        dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+    });
+    const std::optional<QString> chosen = dialogs.chooseFolder({"Backup Recipes to Disk", root.path()});
+    EXPECT_EQ(title, "Backup Recipes to Disk");
+    EXPECT_EQ(shownFirst, root.path());
+    EXPECT_FALSE(filesShown) << "a folder choice shows no files";
+    EXPECT_TRUE(enterKeptOpen);
+    EXPECT_EQ(chosen, root.filePath("Backups"));
 }
 
-TEST(Clock, FixedClockGivesTheTimeItWasSetTo)
+TEST(QtDialogs, CancelledFolderChooserGivesNothing)
 {
-    FixedClock clock(QDateTime(QDate(2006, 9, 30), QTime(8, 15)));
-    EXPECT_EQ(clock.today(), QDate(2006, 9, 30));
-    clock.set(QDateTime(QDate(2026, 11, 21), QTime(0, 0)));
-    EXPECT_EQ(clock.now(), QDateTime(QDate(2026, 11, 21), QTime(0, 0)));
-    SystemClock system;
-    EXPECT_LE(qAbs(system.now().secsTo(QDateTime::currentDateTime())), 2);
+    QTemporaryDir root;
+    QtDialogs dialogs;
+    WhenModalShows([](QWidget* modal) {
+        auto* dialog = qobject_cast<QDialog*>(modal);
+        ASSERT_NE(dialog, nullptr);
+        dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel)->click();
+    });
+    EXPECT_EQ(dialogs.chooseFolder({"Restore", root.path()}), std::nullopt);
 }

@@ -1,8 +1,9 @@
-#include "common/widgets/qtdialogs.h"
+#include "shell/kit/qtdialogs.h"
 
 #include "common/widgets/qtcolors.h"
 #include "common/widgets/qtfonts.h"
 #include "common/widgets/qtpagesetup.h"
+#include "shell/kit/folderchooser.h"
 
 #include "common/colors.h"
 
@@ -163,6 +164,24 @@ std::optional<TextFont> QtDialogs::chooseFont(const TextFont& initial)
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     return dialog.chosen();
+}
+
+std::optional<QString> QtDialogs::chooseFolder(const FolderRequest& request)
+{
+    QDialog dialog(QApplication::activeWindow());
+    dialog.setWindowTitle(request.title);
+    auto* layout = new QVBoxLayout(&dialog);
+    auto* panel = new FolderChooserPanel(FolderChooserPanel::Files::Hidden, &dialog);
+    panel->setFolder(request.startFolder);
+    layout->addWidget(panel);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
+    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    layout->addWidget(buttons);
+    dialog.resize(480, 400);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return panel->folder();
 }
 
 std::optional<PageSetup> QtDialogs::pageSetup(const PageSetup& current)
