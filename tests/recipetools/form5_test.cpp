@@ -636,6 +636,49 @@ TEST_F(Form5Test, SwitchingCookbooksAsksNothingAndDropsTheTypedRecipe)
     EXPECT_TRUE(act(*form, "mView")->isEnabled());
 }
 
+TEST_F(Form5Test, ANewCookbookEmptiesTheSearchResults)
+{
+    auto form = open();
+    act(*form, "mCookbook2")->trigger();
+    saveQuickRecipe(*form, "Stews", "Lamb Stew");
+    act(*form, "mCookbook1")->trigger();
+    saveQuickRecipe(*form, "Stews", "Beef Stew");
+    act(*form, "mSearch")->trigger();
+    form->findChild<QPushButton*>("cmdSearchByRecipe")->click();
+    form->findChild<QLineEdit*>("Text12")->setText("beef");
+    form->findChild<QPushButton*>("cmdSearchNames")->click();
+    form->findChild<QPushButton*>("cmdCloseNameSearch")->click();
+    act(*form, "mSearch")->trigger();
+    form->findChild<QPushButton*>("cmdSearchByIngredient")->click();
+    form->findChild<QLineEdit*>("Text13")->setText("flour");
+    form->findChild<QPushButton*>("cmdSearchAllRecipes")->click();
+    form->findChild<QPushButton*>("cmdCloseIngredientSearch")->click();
+    auto* nameGrid = form->findChild<QTableWidget*>("VSFlexGrid1");
+    auto* ingredientGrid = form->findChild<QTableWidget*>("VSFlexGrid2");
+    ASSERT_EQ(nameGrid->rowCount(), 1);
+    ASSERT_EQ(ingredientGrid->rowCount(), 1);
+
+    act(*form, "mCookbook2")->trigger();
+    EXPECT_EQ(nameGrid->rowCount(), 0);
+    EXPECT_EQ(ingredientGrid->rowCount(), 0);
+    const QList<QLabel*> counts = form->findChildren<QLabel*>("lblMatches");
+    ASSERT_EQ(counts.size(), 2);
+    for (const QLabel* count : counts)
+        EXPECT_TRUE(count->isHidden());
+    for (const QLabel* noMatch : form->findChildren<QLabel*>("pnlNoMatch"))
+        EXPECT_TRUE(noMatch->isHidden());
+
+    // The old hit would have opened slot 1 of cookbook 2, the lamb stew.
+    act(*form, "mSearch")->trigger();
+    form->findChild<QPushButton*>("cmdSearchByRecipe")->click();
+    auto* viewSelected = form->findChild<QPushButton*>("cmdViewSelectedName");
+    EXPECT_FALSE(viewSelected->isEnabled());
+    viewSelected->click();
+    EXPECT_EQ(form->mode(), RecipeMode::Idle);
+    EXPECT_EQ(form->currentRecordNumber(), 0);
+    EXPECT_EQ(fields(*form)->ingredientBox(0)->text(), "");
+}
+
 TEST_F(Form5Test, SelectingTheCurrentCookbookClearsAndReloadsAllTheSame)
 {
     auto form = open();
@@ -878,6 +921,49 @@ TEST_F(Form5CalculatorTest, TypingANewYieldFollowsTheYieldType)
     QTest::keyClicks(newYield(*form), "2");
     EXPECT_EQ(form->findChild<QLabel*>("Label24")->text(), "Cakes");
     EXPECT_EQ(fields(*form)->yieldTypeList()->currentText(), "Cakes");
+}
+
+TEST_F(Form5CalculatorTest, DeletingARecipeEmptiesTheCalculatorAndTheSearchFields)
+{
+    auto form = open();
+    viewFourServings(*form);
+    act(*form, "mCalculate")->trigger();
+    newYield(*form)->setText("6");
+    form->findChild<QPushButton*>("Command10")->click();
+    act(*form, "mSearch")->trigger();
+    form->findChild<QPushButton*>("cmdSearchByRecipe")->click();
+    auto* nameBox = form->findChild<QLineEdit*>("Text12");
+    nameBox->setText("bisc");
+    form->findChild<QPushButton*>("cmdSearchNames")->click();
+    form->findChild<QPushButton*>("cmdCloseNameSearch")->click();
+    act(*form, "mSearch")->trigger();
+    form->findChild<QPushButton*>("cmdSearchByIngredient")->click();
+    auto* firstIngredient = form->findChild<QLineEdit*>("Text13");
+    auto* secondIngredient = form->findChild<QLineEdit*>("Text14");
+    firstIngredient->setText("flour");
+    secondIngredient->setText("salt");
+    auto* searchTypes = form->findChild<QListWidget*>("lstSearchType");
+    searchTypes->setCurrentRow(2); // "Breads"
+    form->findChild<QPushButton*>("cmdSearchByType")->click();
+    form->findChild<QPushButton*>("cmdCloseIngredientSearch")->click();
+    auto* nameGrid = form->findChild<QTableWidget*>("VSFlexGrid1");
+    auto* ingredientGrid = form->findChild<QTableWidget*>("VSFlexGrid2");
+    ASSERT_EQ(nameGrid->rowCount(), 1);
+    ASSERT_EQ(ingredientGrid->rowCount(), 1);
+
+    dialogs.expectMessage("Delete Recipe", "Do you Really want to delete this Recipe?", Answer::Yes);
+    act(*form, "mDelete")->trigger();
+    EXPECT_EQ(newYield(*form)->text(), "");
+    for (const char* label : {"Label20", "Label21", "Label24"})
+        EXPECT_EQ(form->findChild<QLabel*>(label)->text(), "") << label;
+    EXPECT_EQ(nameBox->text(), "");
+    EXPECT_EQ(firstIngredient->text(), "");
+    EXPECT_EQ(secondIngredient->text(), "");
+    EXPECT_TRUE(searchTypes->selectedItems().isEmpty());
+    EXPECT_EQ(nameGrid->rowCount(), 0);
+    EXPECT_EQ(ingredientGrid->rowCount(), 0);
+    for (const QLabel* count : form->findChildren<QLabel*>("lblMatches"))
+        EXPECT_TRUE(count->isHidden());
 }
 
 // ---- Search ---------------------------------------------------------------------------------

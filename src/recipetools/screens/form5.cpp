@@ -6,6 +6,8 @@
 #include "recipetools/logic/amountformat.h"
 #include "recipetools/screens/calculatorpanel.h"
 #include "recipetools/screens/cookbooktitlespanel.h"
+#include "recipetools/screens/ingredientsearchpanel.h"
+#include "recipetools/screens/namesearchpanel.h"
 #include "recipetools/screens/recipefieldspanel.h"
 #include "recipetools/screens/renamepanel.h"
 #include "shell/logic/processvalues.h"
@@ -346,7 +348,10 @@ void Form5::deleteRecipe()
         return;
     }
     DeleteRecipe(cookbook_, *type, currentRecordNumber_, pickEntries(), currentListIndex_);
-    calculator_->clearNewYield();
+    // Nothing of the deleted recipe stays in the calculator or in a search.
+    calculator_->clear();
+    nameSearch_->clear();
+    ingredientSearch_->clear();
     state_ = RecipeScreenState{};
     clearScreen();
     setMode(RecipeMode::Idle);

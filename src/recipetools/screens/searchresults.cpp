@@ -137,6 +137,12 @@ std::optional<SearchHit> SearchResults::selectedHit() const
     return SearchHit{type->text(), name->data(Qt::UserRole).toString()};
 }
 
+void SearchResults::clear()
+{
+    reset();
+    viewSelected_->setEnabled(false);
+}
+
 void SearchResults::showEvent(QShowEvent* event)
 {
     ApplyGridColors(grid_, ReadSharedGridColors());
