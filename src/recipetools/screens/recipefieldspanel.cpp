@@ -196,9 +196,7 @@ void RecipeFieldsPanel::buildLayout()
     combo4_->setObjectName(QStringLiteral("Combo4"));
     combo4_->setEditable(true);
     combo4_->setInsertPolicy(QComboBox::NoInsert);
-    QStringList sortedYields = kYieldTypes;
-    sortedYields.sort(Qt::CaseInsensitive);
-    combo4_->addItems(sortedYields);
+    combo4_->addItems(kYieldTypes); // in this order, servings first, not sorted
     combo4_->setCurrentIndex(-1);
     combo4_->setEditText(QString());
     // Three rows, each block's heading beside its first field, so that the
