@@ -929,6 +929,74 @@ TEST_F(Form5CalculatorTest, TypingANewYieldFollowsTheYieldType)
     EXPECT_EQ(fields(*form)->yieldTypeList()->currentText(), "Cakes");
 }
 
+TEST_F(Form5CalculatorTest, OpeningTheCalculatorLeavesSearchAndTheCookbookMenusOn)
+{
+    auto form = open();
+    viewFourServings(*form);
+    const auto enabled = [&](const char* name) { return act(*form, name)->isEnabled(); };
+    act(*form, "mCalculate")->trigger();
+    for (const char* held : {"mCreate", "mView", "mModify", "mSave", "mDelete", "mPrint", "mCalculate", "mSpelling",
+                             "mCopy"})
+        EXPECT_FALSE(enabled(held)) << held;
+    for (const char* free : {"mSearch", "mTitles", "mWorksheet", "mRename", "mExit", "mPanelColor"})
+        EXPECT_TRUE(enabled(free)) << free;
+    EXPECT_TRUE(form->findChild<QMenu*>("mSelectCookbook")->isEnabled());
+    EXPECT_TRUE(form->findChild<QPushButton*>("Command1_7")->isEnabled()) << "the Search button";
+    EXPECT_FALSE(fields(*form)->typeList()->isEnabled());
+    EXPECT_FALSE(fields(*form)->pickList()->isEnabled());
+
+    form->findChild<QPushButton*>("Command10")->click();
+    for (const char* back : {"mCreate", "mModify", "mDelete", "mPrint", "mCalculate"})
+        EXPECT_TRUE(enabled(back)) << back;
+    EXPECT_FALSE(enabled("mView"));
+    EXPECT_FALSE(enabled("mSave")) << "nothing was calculated";
+    EXPECT_TRUE(fields(*form)->typeList()->isEnabled());
+    EXPECT_TRUE(fields(*form)->pickList()->isEnabled());
+}
+
+TEST_F(Form5CalculatorTest, ACookbookChosenUnderTheCalculatorClosesIt)
+{
+    auto form = open();
+    viewFourServings(*form);
+    act(*form, "mCalculate")->trigger();
+    act(*form, "mCookbook2")->trigger();
+    EXPECT_TRUE(form->findChild<QFrame*>("Recipe Amount Calculator")->isHidden());
+    EXPECT_EQ(strip(*form), "Recipe Files");
+    EXPECT_TRUE(act(*form, "mCreate")->isEnabled());
+    EXPECT_TRUE(act(*form, "mView")->isEnabled());
+    EXPECT_TRUE(fields(*form)->typeList()->isEnabled());
+}
+
+TEST_F(Form5CalculatorTest, ARecipeViewedFromASearchUnderTheCalculatorClosesIt)
+{
+    auto form = open();
+    viewFourServings(*form);
+    act(*form, "mCalculate")->trigger();
+    act(*form, "mSearch")->trigger();
+    EXPECT_FALSE(form->findChild<QMenu*>("mSelectCookbook")->isEnabled()) << "the search panel holds the cookbooks";
+    form->findChild<QPushButton*>("cmdSearchByRecipe")->click();
+    form->findChild<QPushButton*>("cmdViewAllRecipes")->click();
+    form->findChild<QPushButton*>("cmdViewSelectedName")->click();
+    EXPECT_EQ(fields(*form)->pickList()->currentText(), "Biscuits");
+    EXPECT_TRUE(form->findChild<QFrame*>("Recipe Amount Calculator")->isHidden());
+    EXPECT_EQ(strip(*form), "View Recipe");
+    EXPECT_TRUE(act(*form, "mCalculate")->isEnabled());
+    EXPECT_TRUE(fields(*form)->pickList()->isEnabled());
+}
+
+TEST_F(Form5CalculatorTest, ARenameCancelledOverTheCalculatorLeavesItsCaption)
+{
+    auto form = open();
+    viewFourServings(*form);
+    act(*form, "mCalculate")->trigger();
+    act(*form, "mRename")->trigger();
+    EXPECT_EQ(strip(*form), "Name Change");
+    form->findChild<QPushButton*>("Command12")->click();
+    EXPECT_EQ(strip(*form), "Calculate Amts.");
+    EXPECT_FALSE(act(*form, "mModify")->isEnabled());
+    EXPECT_FALSE(form->findChild<QFrame*>("Recipe Amount Calculator")->isHidden());
+}
+
 TEST_F(Form5CalculatorTest, DeletingARecipeEmptiesTheCalculatorAndTheSearchFields)
 {
     auto form = open();

@@ -410,6 +410,10 @@ void Form5::clearScreen()
 {
     amountWorkList_ = {};
     fields_->clearFields();
+    // Search, rename and a new cookbook stay open to the calculator and end
+    // in an emptied screen: nothing is left to rescale.
+    calculator_->hide();
+    state_.calculatorOpen = false;
     state_.recipeShown = false;
     state_.recipeChanged = false;
     applyCommandStates();
@@ -503,7 +507,8 @@ void Form5::setMode(RecipeMode mode)
     fields_->showNameBox(mode == RecipeMode::Create);
     if (mode != RecipeMode::Create)
         fields_->currentNamesPanel()->hide();
-    setTitleStrip(QString::fromLatin1(ModeCaption(mode)));
+    // A panel closing over the open calculator leaves its caption.
+    setTitleStrip(QString::fromLatin1(state_.calculatorOpen ? CalculatorCaption() : ModeCaption(mode)));
     applyCommandStates();
 }
 
@@ -531,9 +536,8 @@ void Form5::applyCommandStates()
     cookbookMenu_->setEnabled(on.cookbookMenus);
     set("mCalculate", on.calculate);
     set("mSearch", on.search);
-    // No other recipe or type is chosen while the calculator works on this one.
-    fields_->typeList()->setEnabled(!state_.calculatorOpen && !state_.searchOpen);
-    fields_->pickList()->setEnabled(!state_.calculatorOpen && !state_.searchOpen);
+    fields_->typeList()->setEnabled(on.pickLists);
+    fields_->pickList()->setEnabled(on.pickLists);
     set("mExit", !state_.panelOpen);
     set("mPrint", on.print);
     set("mWorksheet", on.worksheet);
