@@ -267,10 +267,10 @@ void Form5::loadRecipe(RecordNumber recordNumber, int listIndex)
     picturePath_ = stored.picturePath;
     const RecipeFields shown = FieldsOfRecord(stored.record);
     amountWorkList_ = shown.amounts;
+    state_.recipeShown = true;
+    setMode(RecipeMode::View); // first: the amount boxes then take the longer fraction texts
     fields_->showFields(shown, FormattedAmounts(amountWorkList_));
     fields_->pickList()->setCurrentIndex(listIndex);
-    state_.recipeShown = true;
-    setMode(RecipeMode::View);
     focusCommandButton(kModifyButton);
 }
 
