@@ -77,7 +77,7 @@ TEST_F(Form5Test, TheRoadOfARecipeThroughItsFiles)
     EXPECT_EQ(folder.bytesOf("Recipe2.db1"), apple.savedBytes());
     EXPECT_EQ(folder.bytesOf("Recipe4.db1"), ExtraSlot(""));
     EXPECT_EQ(folder.bytesOf("Breanfil.db1"), NameFile({Entry("Apple Bread", 1)}));
-    EXPECT_EQ(form->mode(), RecipeMode::View);
+    EXPECT_EQ(form->mode(), RecipeMode::Idle);
     EXPECT_EQ(strip(*form), "View Recipe");
 
     // View: amounts as fractions, the work list in decimals.
@@ -141,6 +141,57 @@ TEST_F(Form5Test, TheRoadOfARecipeThroughItsFiles)
 
 // ---- Lifecycle edge cases ---------------------------------------------------------------
 
+TEST_F(Form5Test, AfterASaveTheScreenIsIdle)
+{
+    auto form = open();
+    ShowActive(*form);
+    const auto enabled = [&](const char* name) { return act(*form, name)->isEnabled(); };
+    QComboBox* pickList = fields(*form)->pickList();
+    const auto expectIdle = [&](const char* after) {
+        SCOPED_TRACE(after);
+        EXPECT_EQ(form->mode(), RecipeMode::Idle);
+        EXPECT_EQ(strip(*form), "View Recipe");
+        EXPECT_TRUE(enabled("mCreate"));
+        EXPECT_TRUE(enabled("mView"));
+        for (const char* off : {"mModify", "mSave", "mDelete", "mPrint", "mCalculate", "mRename"})
+            EXPECT_FALSE(enabled(off)) << off;
+        EXPECT_EQ(fields(*form)->nameBox()->text(), "");
+        EXPECT_EQ(fields(*form)->ingredientBox(0)->text(), "");
+        ASSERT_EQ(pickList->count(), 1) << "the type's list is read again";
+        EXPECT_EQ(pickList->itemText(0), "Beef Stew");
+        EXPECT_TRUE(pickList->view()->isVisible()) << "the pick list drops down";
+        pickList->hidePopup();
+    };
+
+    saveQuickRecipe(*form, "Stews", "Beef Stew");
+    expectIdle("a new recipe");
+
+    // The dropped list takes its choice without the idle screen's message.
+    pickList->showPopup();
+    pickList->view()->setCurrentIndex(pickList->model()->index(0, 0));
+    QTest::keyClick(pickList->view(), Qt::Key_Return);
+    EXPECT_TRUE(dialogs.messages().isEmpty());
+    EXPECT_EQ(form->mode(), RecipeMode::View);
+    EXPECT_EQ(fields(*form)->ingredientBox(0)->text(), "flour");
+
+    act(*form, "mModify")->trigger();
+    QTest::keyClicks(fields(*form)->ingredientBox(1), "salt");
+    act(*form, "mSave")->trigger();
+    expectIdle("a changed recipe");
+    EXPECT_EQ(folder.bytesOf("Recipe2.db1").mid(1304 + 35, 4), "salt");
+
+    // Saved by the question of another action: that action goes on, and
+    // nothing drops down in its way.
+    pick(*form, "Beef Stew");
+    act(*form, "mModify")->trigger();
+    QTest::keyClicks(fields(*form)->ingredientBox(2), "pepper");
+    dialogs.expectMessage(kRecipeFile, kSaveQuestion, Answer::Yes);
+    act(*form, "mCreate")->trigger();
+    EXPECT_EQ(folder.bytesOf("Recipe2.db1").mid(1304 + 70, 6), "pepper");
+    EXPECT_EQ(form->mode(), RecipeMode::Create);
+    EXPECT_FALSE(pickList->view()->isVisible());
+}
+
 TEST_F(Form5Test, SaveInCreateModeWithABlankNameIsRefused)
 {
     auto form = open();
@@ -176,11 +227,11 @@ TEST_F(Form5Test, YesInTheSaveQuestionSavesFirst)
     startRecipe(*form, "Dips", "Onion Dip");
     typeRow(*form, 0, "1", "cup", "sour cream");
     dialogs.expectMessage(kRecipeFile, kSaveQuestion, Answer::Yes);
-    // The save leaves the screen viewing; the new type has nothing to view.
-    dialogs.expectMessage("Recipe Files", "No Recipes for Stews were found!");
     Choose(fields(*form)->typeList(), "Stews");
     EXPECT_EQ(folder.bytesOf("Dipsnfil.db1"), NameFile({Entry("Onion Dip", 1)}));
     EXPECT_EQ(fields(*form)->typeList()->currentText(), "Stews") << "the action goes on";
+    EXPECT_EQ(dialogs.messages().size(), 1) << "the save leaves the screen idle: an empty type is no message";
+    EXPECT_EQ(form->mode(), RecipeMode::Idle);
 }
 
 TEST_F(Form5Test, CancelInTheSaveQuestionOfAnotherTypePutsTheOldTypeBack)

@@ -301,8 +301,9 @@ void Form5::saveRecipe()
 }
 
 // Saves the recipe on the screen. After a new or changed recipe the screen is
-// cleared and the type's lists read again; the pick list drops down for the
-// next choice unless the save came from the save question of another action.
+// cleared and idle, and the type is chosen again to read its lists; the pick
+// list drops down for the next choice unless the save came from the save
+// question of another action.
 void Form5::save(bool openPickList)
 {
     saveRefused_ = false;
@@ -330,7 +331,10 @@ void Form5::save(bool openPickList)
     }
     state_.amountsRecalculated = false;
     clearScreen();
-    setMode(RecipeMode::View);
+    setMode(RecipeMode::Idle);
+    // Idle, yet the title strip reads as after View: a recipe of the type is
+    // what the user picks next.
+    setTitleStrip(QString::fromLatin1(ModeCaption(RecipeMode::View)));
     fillTypeLists(openPickList);
 }
 
