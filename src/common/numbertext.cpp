@@ -34,13 +34,16 @@ int DigitValue(char16_t c, int radix)
     return v < radix ? v : -1;
 }
 
-// Reads the text the way the runtime does: one pass, blanks ignored everywhere.
+// Reads the number at the front of the text in one pass: blanks before it are
+// skipped, and the first character that cannot continue it ends the reading.
 class LeadingNumberReader {
 public:
     explicit LeadingNumberReader(QStringView text) : text_(text) {}
 
     std::optional<double> Read()
     {
+        while (pos_ < text_.size() && IsBlank(text_[pos_]))
+            ++pos_;
         char16_t c = Peek();
         if (c == u'&')
             return ReadRadix();
@@ -119,10 +122,8 @@ public:
     }
 
 private:
-    char16_t Peek()
+    char16_t Peek() const
     {
-        while (pos_ < text_.size() && IsBlank(text_[pos_]))
-            ++pos_;
         return pos_ < text_.size() ? text_[pos_].unicode() : char16_t(0);
     }
     void Next() { ++pos_; }

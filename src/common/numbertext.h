@@ -9,15 +9,15 @@
 #include <concepts>
 #include <optional>
 
-// The leading number of a text, as the runtime's Val reads it. Blanks (space,
-// tab, CR, LF) are skipped wherever they stand, so " 12 34" is 1234 and
-// "3 1/2" is 31. Then an optional sign, digits with at most one '.', and an
+// The number at the front of a text. Blanks (space, tab, CR, LF) before it
+// are skipped; then an optional sign, digits with at most one '.', and an
 // optional exponent (E or D in either case, optional sign, missing digits
 // count as 0). Reading stops at the first character that cannot continue the
-// number: "1,250.00" is 1, "4 servings" is 4. A text that does not start with
-// a number is 0. "&H1F" and "&O17" read hexadecimal and octal; as in the
-// runtime a value up to FFFF is an Integer and one up to FFFFFFFF a Long, so
-// "&HFFFF" is -1 and "&H10000" is 65536.
+// number, a blank included: "1 1/2" is 1, " 12 34" is 12, "4 servings" is 4,
+// "1,250.00" is 1. A text that does not start with a number is 0. "&H1F" and
+// "&O17" read hexadecimal and octal; as in the runtime a value up to FFFF is
+// an Integer and one up to FFFFFFFF a Long, so "&HFFFF" is -1 and "&H10000"
+// is 65536.
 double Val(QStringView text);
 
 // Val, but empty where the runtime stops with an overflow: a decimal beyond

@@ -57,7 +57,7 @@ TEST(RecordNumberOf, TableOfEntries)
         {"a digit at character 52 is read", pad + "7", 7},
         {"a digit before character 52 is not read", "Pie" + Blanks(47) + "9 5", 5},
         {"blanks before the number are skipped", pad + "     8", 8},
-        {"blanks inside the number are skipped", pad + " 1 2", 12},
+        {"a blank inside the number ends it", pad + " 1 2", 1},
         {"stops at the first non-digit", pad + " 17abc", 17},
         {"a text that is no number", pad + " abc", 0},
         {"a sign is no digit", pad + " -5", 0},

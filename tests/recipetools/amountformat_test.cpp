@@ -52,7 +52,7 @@ TEST(FormatAmount, TableOfAmounts)
         {"leading blanks are skipped", "  1.25", "1 1/4"},
         {"text after the number is ignored", "2.5 cups", "2 1/2"},
         {"not a number", "abc", ""},
-        {"a fraction is not a decimal: the blank is skipped, 1 1/2 reads 11", "1 1/2", "11"},
+        {"a fraction is not a decimal: reading stops at the blank, 1 1/2 reads 1", "1 1/2", "1"},
         {"the largest five-character amount", "99999", "99999"},
     };
     for (const FormatRow& row : rows) {

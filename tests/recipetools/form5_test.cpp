@@ -78,7 +78,7 @@ TEST_F(Form5Test, TheRoadOfARecipeThroughItsFiles)
     EXPECT_EQ(folder.bytesOf("Recipe2.db1"), apple.savedBytes());
     EXPECT_EQ(folder.bytesOf("Recipe4.db1"), ExtraSlot(""));
     EXPECT_EQ(folder.bytesOf("Breanfil.db1"), NameFile({Entry("Apple Bread", 1)}));
-    EXPECT_EQ(form->mode(), RecipeMode::View);
+    EXPECT_EQ(form->mode(), RecipeMode::Idle);
     EXPECT_EQ(strip(*form), "View Recipe");
 
     // View: amounts as fractions, the work list in decimals.
@@ -142,6 +142,57 @@ TEST_F(Form5Test, TheRoadOfARecipeThroughItsFiles)
 
 // ---- Lifecycle edge cases ---------------------------------------------------------------
 
+TEST_F(Form5Test, AfterASaveTheScreenIsIdle)
+{
+    auto form = open();
+    ShowActive(*form);
+    const auto enabled = [&](const char* name) { return act(*form, name)->isEnabled(); };
+    QComboBox* pickList = fields(*form)->pickList();
+    const auto expectIdle = [&](const char* after) {
+        SCOPED_TRACE(after);
+        EXPECT_EQ(form->mode(), RecipeMode::Idle);
+        EXPECT_EQ(strip(*form), "View Recipe");
+        EXPECT_TRUE(enabled("mCreate"));
+        EXPECT_TRUE(enabled("mView"));
+        for (const char* off : {"mModify", "mSave", "mDelete", "mPrint", "mCalculate", "mRename"})
+            EXPECT_FALSE(enabled(off)) << off;
+        EXPECT_EQ(fields(*form)->nameBox()->text(), "");
+        EXPECT_EQ(fields(*form)->ingredientBox(0)->text(), "");
+        ASSERT_EQ(pickList->count(), 1) << "the type's list is read again";
+        EXPECT_EQ(pickList->itemText(0), "Beef Stew");
+        EXPECT_TRUE(pickList->view()->isVisible()) << "the pick list drops down";
+        pickList->hidePopup();
+    };
+
+    saveQuickRecipe(*form, "Stews", "Beef Stew");
+    expectIdle("a new recipe");
+
+    // The dropped list takes its choice without the idle screen's message.
+    pickList->showPopup();
+    pickList->view()->setCurrentIndex(pickList->model()->index(0, 0));
+    QTest::keyClick(pickList->view(), Qt::Key_Return);
+    EXPECT_TRUE(dialogs.messages().isEmpty());
+    EXPECT_EQ(form->mode(), RecipeMode::View);
+    EXPECT_EQ(fields(*form)->ingredientBox(0)->text(), "flour");
+
+    act(*form, "mModify")->trigger();
+    QTest::keyClicks(fields(*form)->ingredientBox(1), "salt");
+    act(*form, "mSave")->trigger();
+    expectIdle("a changed recipe");
+    EXPECT_EQ(folder.bytesOf("Recipe2.db1").mid(1304 + 35, 4), "salt");
+
+    // Saved by the question of another action: that action goes on, and
+    // nothing drops down in its way.
+    pick(*form, "Beef Stew");
+    act(*form, "mModify")->trigger();
+    QTest::keyClicks(fields(*form)->ingredientBox(2), "pepper");
+    dialogs.expectMessage(kRecipeFile, kSaveQuestion, Answer::Yes);
+    act(*form, "mCreate")->trigger();
+    EXPECT_EQ(folder.bytesOf("Recipe2.db1").mid(1304 + 70, 6), "pepper");
+    EXPECT_EQ(form->mode(), RecipeMode::Create);
+    EXPECT_FALSE(pickList->view()->isVisible());
+}
+
 TEST_F(Form5Test, SaveInCreateModeWithABlankNameIsRefused)
 {
     auto form = open();
@@ -177,11 +228,11 @@ TEST_F(Form5Test, YesInTheSaveQuestionSavesFirst)
     startRecipe(*form, "Dips", "Onion Dip");
     typeRow(*form, 0, "1", "cup", "sour cream");
     dialogs.expectMessage(kRecipeFile, kSaveQuestion, Answer::Yes);
-    // The save leaves the screen viewing; the new type has nothing to view.
-    dialogs.expectMessage("Recipe Files", "No Recipes for Stews were found!");
     Choose(fields(*form)->typeList(), "Stews");
     EXPECT_EQ(folder.bytesOf("Dipsnfil.db1"), NameFile({Entry("Onion Dip", 1)}));
     EXPECT_EQ(fields(*form)->typeList()->currentText(), "Stews") << "the action goes on";
+    EXPECT_EQ(dialogs.messages().size(), 1) << "the save leaves the screen idle: an empty type is no message";
+    EXPECT_EQ(form->mode(), RecipeMode::Idle);
 }
 
 TEST_F(Form5Test, CancelInTheSaveQuestionOfAnotherTypePutsTheOldTypeBack)
@@ -328,12 +379,6 @@ TEST_F(Form5Test, FixedListsAreFilledAtLoad)
     EXPECT_EQ(types->itemText(0), "Appetizers and beverages");
     EXPECT_EQ(types->itemText(13), "Lowin fat or calorie meals");
     EXPECT_EQ(types->itemText(21), "Vegetables");
-    QComboBox* yields = fields(*form)->yieldTypeList();
-    QStringList yieldTypes;
-    for (int i = 0; i < yields->count(); ++i)
-        yieldTypes << yields->itemText(i);
-    EXPECT_EQ(yieldTypes, QStringList({"Cake(s)", "Casserole(s)", "Dozen", "Gallon(s)", "Loaf(s)", "Pie(s)", "Pieces",
-                                       "Quart(s)", "Serving(s)"}));
     auto* singular = form->findChild<QListWidget*>("Combo5");
     auto* plural = form->findChild<QListWidget*>("Combo6");
     auto* amounts = form->findChild<QListWidget*>("Combo3");
@@ -343,6 +388,18 @@ TEST_F(Form5Test, FixedListsAreFilledAtLoad)
     EXPECT_EQ(plural->item(14)->text(), "Tbsps.");
     ASSERT_EQ(amounts->count(), 14);
     EXPECT_EQ(amounts->item(2)->text(), "1/3");
+}
+
+TEST_F(Form5Test, TheYieldTypeListKeepsItsOwnOrder)
+{
+    auto form = open();
+    QComboBox* yields = fields(*form)->yieldTypeList();
+    QStringList yieldTypes;
+    for (int i = 0; i < yields->count(); ++i)
+        yieldTypes << yields->itemText(i);
+    EXPECT_EQ(yieldTypes, QStringList({"Serving(s)", "Casserole(s)", "Cake(s)", "Pie(s)", "Dozen", "Loaf(s)", "Pieces",
+                                       "Gallon(s)", "Quart(s)"}));
+    EXPECT_EQ(yields->currentText(), "") << "no yield type is chosen at load";
 }
 
 TEST_F(Form5Test, InViewModeAClickOnAFieldOnlyShowsTheCommandMessage)
@@ -431,6 +488,38 @@ TEST_F(Form5Test, AmountBoxKeepsOnlyDigitsAndPointsAndExplainsSlashes)
     QTest::keyClicks(amount, "1/");
     EXPECT_EQ(amount->text(), "1");
     EXPECT_EQ(form->amountWorkList()[0], "1");
+}
+
+TEST_F(Form5Test, AnAmountBoxInCreateTakesFiveCharacters)
+{
+    auto form = open();
+    startRecipe(*form, "Breads", "Rolls");
+    QLineEdit* amount = fields(*form)->amountBox(0);
+    QTest::keyClicks(amount, "123456");
+    EXPECT_EQ(amount->text(), "12345");
+    EXPECT_EQ(form->amountWorkList()[0], "12345");
+}
+
+TEST_F(Form5Test, ViewShowsALongFractionWholeAndModifyItsDecimal)
+{
+    auto form = open();
+    startRecipe(*form, "Breads", "Rolls");
+    typeRow(*form, 0, "12.67", "cups", "flour");
+    act(*form, "mSave")->trigger();
+    saveQuickRecipe(*form, "Breads", "Scones");
+    QLineEdit* amount = fields(*form)->amountBox(0);
+
+    // Viewed straight from Modify of another recipe, where the boxes took five.
+    pick(*form, "Scones");
+    act(*form, "mModify")->trigger();
+    pick(*form, "Rolls");
+    EXPECT_EQ(amount->text(), "12 2/3");
+
+    act(*form, "mModify")->trigger();
+    EXPECT_EQ(amount->text(), "12.67");
+    amount->setCursorPosition(amount->text().size());
+    QTest::keyClicks(amount, "5");
+    EXPECT_EQ(amount->text(), "12.67") << "Modify takes five as Create does";
 }
 
 TEST_F(Form5Test, AQuoteTypedLastIsCutButOnePastedInTheMiddleStays)
@@ -635,6 +724,49 @@ TEST_F(Form5Test, SwitchingCookbooksAsksNothingAndDropsTheTypedRecipe)
     EXPECT_EQ(form->mode(), RecipeMode::Idle);
     EXPECT_TRUE(act(*form, "mCreate")->isEnabled());
     EXPECT_TRUE(act(*form, "mView")->isEnabled());
+}
+
+TEST_F(Form5Test, ANewCookbookEmptiesTheSearchResults)
+{
+    auto form = open();
+    act(*form, "mCookbook2")->trigger();
+    saveQuickRecipe(*form, "Stews", "Lamb Stew");
+    act(*form, "mCookbook1")->trigger();
+    saveQuickRecipe(*form, "Stews", "Beef Stew");
+    act(*form, "mSearch")->trigger();
+    form->findChild<QPushButton*>("cmdSearchByRecipe")->click();
+    form->findChild<QLineEdit*>("Text12")->setText("beef");
+    form->findChild<QPushButton*>("cmdSearchNames")->click();
+    form->findChild<QPushButton*>("cmdCloseNameSearch")->click();
+    act(*form, "mSearch")->trigger();
+    form->findChild<QPushButton*>("cmdSearchByIngredient")->click();
+    form->findChild<QLineEdit*>("Text13")->setText("flour");
+    form->findChild<QPushButton*>("cmdSearchAllRecipes")->click();
+    form->findChild<QPushButton*>("cmdCloseIngredientSearch")->click();
+    auto* nameGrid = form->findChild<QTableWidget*>("VSFlexGrid1");
+    auto* ingredientGrid = form->findChild<QTableWidget*>("VSFlexGrid2");
+    ASSERT_EQ(nameGrid->rowCount(), 1);
+    ASSERT_EQ(ingredientGrid->rowCount(), 1);
+
+    act(*form, "mCookbook2")->trigger();
+    EXPECT_EQ(nameGrid->rowCount(), 0);
+    EXPECT_EQ(ingredientGrid->rowCount(), 0);
+    const QList<QLabel*> counts = form->findChildren<QLabel*>("lblMatches");
+    ASSERT_EQ(counts.size(), 2);
+    for (const QLabel* count : counts)
+        EXPECT_TRUE(count->isHidden());
+    for (const QLabel* noMatch : form->findChildren<QLabel*>("pnlNoMatch"))
+        EXPECT_TRUE(noMatch->isHidden());
+
+    // The old hit would have opened slot 1 of cookbook 2, the lamb stew.
+    act(*form, "mSearch")->trigger();
+    form->findChild<QPushButton*>("cmdSearchByRecipe")->click();
+    auto* viewSelected = form->findChild<QPushButton*>("cmdViewSelectedName");
+    EXPECT_FALSE(viewSelected->isEnabled());
+    viewSelected->click();
+    EXPECT_EQ(form->mode(), RecipeMode::Idle);
+    EXPECT_EQ(form->currentRecordNumber(), 0);
+    EXPECT_EQ(fields(*form)->ingredientBox(0)->text(), "");
 }
 
 TEST_F(Form5Test, SelectingTheCurrentCookbookClearsAndReloadsAllTheSame)
@@ -879,6 +1011,117 @@ TEST_F(Form5CalculatorTest, TypingANewYieldFollowsTheYieldType)
     QTest::keyClicks(newYield(*form), "2");
     EXPECT_EQ(form->findChild<QLabel*>("Label24")->text(), "Cakes");
     EXPECT_EQ(fields(*form)->yieldTypeList()->currentText(), "Cakes");
+}
+
+TEST_F(Form5CalculatorTest, OpeningTheCalculatorLeavesSearchAndTheCookbookMenusOn)
+{
+    auto form = open();
+    viewFourServings(*form);
+    const auto enabled = [&](const char* name) { return act(*form, name)->isEnabled(); };
+    act(*form, "mCalculate")->trigger();
+    for (const char* held : {"mCreate", "mView", "mModify", "mSave", "mDelete", "mPrint", "mCalculate", "mSpelling",
+                             "mCopy"})
+        EXPECT_FALSE(enabled(held)) << held;
+    for (const char* free : {"mSearch", "mTitles", "mWorksheet", "mRename", "mExit", "mPanelColor"})
+        EXPECT_TRUE(enabled(free)) << free;
+    EXPECT_TRUE(form->findChild<QMenu*>("mSelectCookbook")->isEnabled());
+    EXPECT_TRUE(form->findChild<QPushButton*>("Command1_7")->isEnabled()) << "the Search button";
+    EXPECT_FALSE(fields(*form)->typeList()->isEnabled());
+    EXPECT_FALSE(fields(*form)->pickList()->isEnabled());
+
+    form->findChild<QPushButton*>("Command10")->click();
+    for (const char* back : {"mCreate", "mModify", "mDelete", "mPrint", "mCalculate"})
+        EXPECT_TRUE(enabled(back)) << back;
+    EXPECT_FALSE(enabled("mView"));
+    EXPECT_FALSE(enabled("mSave")) << "nothing was calculated";
+    EXPECT_TRUE(fields(*form)->typeList()->isEnabled());
+    EXPECT_TRUE(fields(*form)->pickList()->isEnabled());
+}
+
+TEST_F(Form5CalculatorTest, ACookbookChosenUnderTheCalculatorClosesIt)
+{
+    auto form = open();
+    viewFourServings(*form);
+    act(*form, "mCalculate")->trigger();
+    act(*form, "mCookbook2")->trigger();
+    EXPECT_TRUE(form->findChild<QFrame*>("Recipe Amount Calculator")->isHidden());
+    EXPECT_EQ(strip(*form), "Recipe Files");
+    EXPECT_TRUE(act(*form, "mCreate")->isEnabled());
+    EXPECT_TRUE(act(*form, "mView")->isEnabled());
+    EXPECT_TRUE(fields(*form)->typeList()->isEnabled());
+}
+
+TEST_F(Form5CalculatorTest, ARecipeViewedFromASearchUnderTheCalculatorClosesIt)
+{
+    auto form = open();
+    viewFourServings(*form);
+    act(*form, "mCalculate")->trigger();
+    act(*form, "mSearch")->trigger();
+    EXPECT_FALSE(form->findChild<QMenu*>("mSelectCookbook")->isEnabled()) << "the search panel holds the cookbooks";
+    form->findChild<QPushButton*>("cmdSearchByRecipe")->click();
+    form->findChild<QPushButton*>("cmdViewAllRecipes")->click();
+    form->findChild<QPushButton*>("cmdViewSelectedName")->click();
+    EXPECT_EQ(fields(*form)->pickList()->currentText(), "Biscuits");
+    EXPECT_TRUE(form->findChild<QFrame*>("Recipe Amount Calculator")->isHidden());
+    EXPECT_EQ(strip(*form), "View Recipe");
+    EXPECT_TRUE(act(*form, "mCalculate")->isEnabled());
+    EXPECT_TRUE(fields(*form)->pickList()->isEnabled());
+}
+
+TEST_F(Form5CalculatorTest, ARenameCancelledOverTheCalculatorLeavesItsCaption)
+{
+    auto form = open();
+    viewFourServings(*form);
+    act(*form, "mCalculate")->trigger();
+    act(*form, "mRename")->trigger();
+    EXPECT_EQ(strip(*form), "Name Change");
+    form->findChild<QPushButton*>("Command12")->click();
+    EXPECT_EQ(strip(*form), "Calculate Amts.");
+    EXPECT_FALSE(act(*form, "mModify")->isEnabled());
+    EXPECT_FALSE(form->findChild<QFrame*>("Recipe Amount Calculator")->isHidden());
+}
+
+TEST_F(Form5CalculatorTest, DeletingARecipeEmptiesTheCalculatorAndTheSearchFields)
+{
+    auto form = open();
+    viewFourServings(*form);
+    act(*form, "mCalculate")->trigger();
+    newYield(*form)->setText("6");
+    form->findChild<QPushButton*>("Command10")->click();
+    act(*form, "mSearch")->trigger();
+    form->findChild<QPushButton*>("cmdSearchByRecipe")->click();
+    auto* nameBox = form->findChild<QLineEdit*>("Text12");
+    nameBox->setText("bisc");
+    form->findChild<QPushButton*>("cmdSearchNames")->click();
+    form->findChild<QPushButton*>("cmdCloseNameSearch")->click();
+    act(*form, "mSearch")->trigger();
+    form->findChild<QPushButton*>("cmdSearchByIngredient")->click();
+    auto* firstIngredient = form->findChild<QLineEdit*>("Text13");
+    auto* secondIngredient = form->findChild<QLineEdit*>("Text14");
+    firstIngredient->setText("flour");
+    secondIngredient->setText("salt");
+    auto* searchTypes = form->findChild<QListWidget*>("lstSearchType");
+    searchTypes->setCurrentRow(2); // "Breads"
+    form->findChild<QPushButton*>("cmdSearchByType")->click();
+    form->findChild<QPushButton*>("cmdCloseIngredientSearch")->click();
+    auto* nameGrid = form->findChild<QTableWidget*>("VSFlexGrid1");
+    auto* ingredientGrid = form->findChild<QTableWidget*>("VSFlexGrid2");
+    ASSERT_EQ(nameGrid->rowCount(), 1);
+    ASSERT_EQ(ingredientGrid->rowCount(), 1);
+
+    dialogs.expectMessage("Delete Recipe", "Do you Really want to delete this Recipe?", Answer::Yes);
+    act(*form, "mDelete")->trigger();
+    EXPECT_EQ(newYield(*form)->text(), "");
+    for (const char* label : {"Label20", "Label21", "Label24"})
+        EXPECT_EQ(form->findChild<QLabel*>(label)->text(), "") << label;
+    EXPECT_EQ(nameBox->text(), "");
+    EXPECT_EQ(firstIngredient->text(), "");
+    EXPECT_EQ(secondIngredient->text(), "");
+    EXPECT_TRUE(searchTypes->selectedItems().isEmpty());
+    EXPECT_EQ(nameGrid->rowCount(), 0);
+    EXPECT_EQ(ingredientGrid->rowCount(), 0);
+    for (const QLabel* count : form->findChildren<QLabel*>("lblMatches"))
+        EXPECT_TRUE(count->isHidden());
 }
 
 // ---- Search ---------------------------------------------------------------------------------

@@ -27,7 +27,7 @@ RecipeScreenState State(RecipeMode mode, bool shown = false, bool changed = fals
 }
 
 // create, view, modify, save, delete, rename, print, calculate, search,
-// spelling, copy, export, import, cookbook menus, worksheet
+// spelling, copy, export, import, cookbook menus, worksheet, pick lists
 RecipeCommandStates On(std::initializer_list<int> bits)
 {
     const auto b = [&](int i) { return *(bits.begin() + i) != 0; };
@@ -45,7 +45,8 @@ RecipeCommandStates On(std::initializer_list<int> bits)
             .exportRecipe = b(11),
             .importRecipe = b(12),
             .cookbookMenus = b(13),
-            .worksheet = b(14)};
+            .worksheet = b(14),
+            .pickLists = b(15)};
 }
 
 } // namespace
@@ -53,25 +54,34 @@ RecipeCommandStates On(std::initializer_list<int> bits)
 TEST(RecipeModes, CommandStatesByMode)
 {
     const Row rows[] = {
-        {"idle", State(RecipeMode::Idle), On({1, 1, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 1})},
-        {"create, nothing typed", State(RecipeMode::Create), On({0, 1, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 1, 1, 1})},
+        {"idle", State(RecipeMode::Idle), On({1, 1, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 1, 1})},
+        {"create, nothing typed", State(RecipeMode::Create), On({0, 1, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 1, 1, 1, 1})},
         {"create in an empty cookbook", State(RecipeMode::Create, false, false, false, false, false),
-         On({0, 0, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 1, 1, 1})},
-        {"create, typed", State(RecipeMode::Create, false, true), On({0, 1, 0, 1, 0, 0, 0, 0, 1, 1, 0, 0, 1, 1, 1})},
-        {"view, list open", State(RecipeMode::View), On({1, 0, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 1})},
-        {"view, recipe shown", State(RecipeMode::View, true), On({1, 0, 1, 0, 1, 1, 1, 1, 1, 0, 1, 1, 0, 1, 1})},
+         On({0, 0, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 1, 1, 1, 1})},
+        {"create, typed", State(RecipeMode::Create, false, true), On({0, 1, 0, 1, 0, 0, 0, 0, 1, 1, 0, 0, 1, 1, 1, 1})},
+        {"view, list open", State(RecipeMode::View), On({1, 0, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 1, 1})},
+        {"view, recipe shown", State(RecipeMode::View, true), On({1, 0, 1, 0, 1, 1, 1, 1, 1, 0, 1, 1, 0, 1, 1, 1})},
         {"view after the calculator", State(RecipeMode::View, true, false, true),
-         On({1, 0, 1, 1, 1, 1, 1, 1, 1, 0, 1, 1, 0, 1, 1})},
-        {"modify", State(RecipeMode::Modify, true), On({1, 0, 0, 0, 1, 1, 1, 1, 1, 0, 0, 0, 0, 1, 1})},
-        {"modify, typed", State(RecipeMode::Modify, true, true), On({1, 0, 0, 1, 1, 1, 1, 1, 1, 1, 1, 0, 0, 1, 1})},
-        {"rename panel open", State(RecipeMode::View, true, false, false, true),
-         On({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0})},
-        {"calculator open", State(RecipeMode::View, true, false, true, false, true, true),
-         On({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0})},
+         On({1, 0, 1, 1, 1, 1, 1, 1, 1, 0, 1, 1, 0, 1, 1, 1})},
+        {"modify", State(RecipeMode::Modify, true), On({1, 0, 0, 0, 1, 1, 1, 1, 1, 0, 0, 0, 0, 1, 1, 1})},
+        {"modify, typed", State(RecipeMode::Modify, true, true), On({1, 0, 0, 1, 1, 1, 1, 1, 1, 1, 1, 0, 0, 1, 1, 1})},
+        {"rename open", State(RecipeMode::View, true, false, false, true),
+         On({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1})},
+        // Off: what creates, shows, changes, saves, prints or copies a recipe,
+        // and the pick lists. As the mode has them: rename, search, export,
+        // the cookbook menus and the worksheet.
+        {"calculator open", State(RecipeMode::View, true, false, false, false, true, true),
+         On({0, 0, 0, 0, 0, 1, 0, 0, 1, 0, 0, 1, 0, 1, 1, 0})},
+        {"calculator open after a calculation", State(RecipeMode::View, true, false, true, false, true, true),
+         On({0, 0, 0, 0, 0, 1, 0, 0, 1, 0, 0, 1, 0, 1, 1, 0})},
+        {"calculator open in modify, typed", State(RecipeMode::Modify, true, true, false, false, true, true),
+         On({0, 0, 0, 0, 0, 1, 0, 0, 1, 0, 0, 0, 0, 1, 1, 0})},
         {"search open", State(RecipeMode::View, true, false, false, false, true, false, true),
-         On({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0})},
-        {"print options open", State(RecipeMode::View, true, false, false, false, true, false, false, true),
-         On({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0})},
+         On({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0})},
+        {"search open over the calculator", State(RecipeMode::View, true, false, true, false, true, true, true),
+         On({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0})},
+        {"print open", State(RecipeMode::View, true, false, false, false, true, false, false, true),
+         On({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1})},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -91,6 +101,7 @@ TEST(RecipeModes, CommandStatesByMode)
         EXPECT_EQ(on.importRecipe, row.expected.importRecipe);
         EXPECT_EQ(on.cookbookMenus, row.expected.cookbookMenus);
         EXPECT_EQ(on.worksheet, row.expected.worksheet);
+        EXPECT_EQ(on.pickLists, row.expected.pickLists);
     }
 }
 

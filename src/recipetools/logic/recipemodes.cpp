@@ -3,8 +3,12 @@
 RecipeCommandStates CommandStatesFor(const RecipeScreenState& state)
 {
     RecipeCommandStates on;
-    if (state.panelOpen || state.calculatorOpen || state.searchOpen || state.printOpen)
-        return on; // a panel over the screen holds every command until it closes
+    // Choosing another type or recipe under the calculator would leave the
+    // panel rescaling with the yield and work list of the recipe it was
+    // opened on; a search chooses them itself when it shows a hit.
+    on.pickLists = !state.calculatorOpen && !state.searchOpen;
+    if (state.panelOpen || state.searchOpen || state.printOpen)
+        return on; // the rename, search and print panels hold every command until they close
     const bool editing = state.mode == RecipeMode::Create || state.mode == RecipeMode::Modify;
     const bool shown = state.recipeShown
         && (state.mode == RecipeMode::View || state.mode == RecipeMode::Modify);
@@ -26,6 +30,20 @@ RecipeCommandStates CommandStatesFor(const RecipeScreenState& state)
     on.exportRecipe = shown && state.mode == RecipeMode::View;
     on.importRecipe = state.mode == RecipeMode::Create;
     on.cookbookMenus = true;
+    if (state.calculatorOpen) {
+        // The calculator holds what would create, show, change, save, print
+        // or copy a recipe; search, rename, the worksheet and the cookbooks
+        // stay as the mode has them.
+        on.create = false;
+        on.view = false;
+        on.modify = false;
+        on.save = false;
+        on.deleteRecipe = false;
+        on.print = false;
+        on.calculate = false;
+        on.spelling = false;
+        on.copy = false;
+    }
     return on;
 }
 

@@ -37,6 +37,7 @@ struct RecipeCommandStates {
     bool importRecipe = false;
     bool cookbookMenus = false;         // "Select Cook&book" and "Cookbook &Titles"
     bool worksheet = false;             // "Print &Worksheet"
+    bool pickLists = false;             // the type list and the recipe pick list
 
     bool operator==(const RecipeCommandStates&) const = default;
 };

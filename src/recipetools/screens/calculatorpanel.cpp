@@ -105,6 +105,14 @@ void CalculatorPanel::clearNewYield()
     text9_->clear();
 }
 
+void CalculatorPanel::clear()
+{
+    label20_->clear();
+    label21_->clear();
+    text9_->clear();
+    label24_->clear();
+}
+
 QString CalculatorPanel::newYieldType() const
 {
     return label24_->text();

@@ -25,6 +25,8 @@ public:
     // After a calculation the new yield becomes the current one.
     void setCurrentYield(const QString& yield);
     void clearNewYield();
+    // Empties the current yield, its type and the new yield.
+    void clear();
     QString newYieldType() const;
 
     QLineEdit* newYieldBox() const { return text9_; }

@@ -6,6 +6,8 @@
 #include "recipetools/logic/amountformat.h"
 #include "recipetools/screens/calculatorpanel.h"
 #include "recipetools/screens/cookbooktitlespanel.h"
+#include "recipetools/screens/ingredientsearchpanel.h"
+#include "recipetools/screens/namesearchpanel.h"
 #include "recipetools/screens/recipefieldspanel.h"
 #include "recipetools/screens/renamepanel.h"
 #include "shell/logic/processvalues.h"
@@ -262,10 +264,10 @@ void Form5::loadRecipe(RecordNumber recordNumber, int listIndex)
     picturePath_ = stored.picturePath;
     const RecipeFields shown = FieldsOfRecord(stored.record);
     amountWorkList_ = shown.amounts;
+    state_.recipeShown = true;
+    setMode(RecipeMode::View); // first: the amount boxes then take the longer fraction texts
     fields_->showFields(shown, FormattedAmounts(amountWorkList_));
     fields_->pickList()->setCurrentIndex(listIndex);
-    state_.recipeShown = true;
-    setMode(RecipeMode::View);
     focusCommandButton(kModifyButton);
 }
 
@@ -296,8 +298,9 @@ void Form5::saveRecipe()
 }
 
 // Saves the recipe on the screen. After a new or changed recipe the screen is
-// cleared and the type's lists read again; the pick list drops down for the
-// next choice unless the save came from the save question of another action.
+// cleared and idle, and the type is chosen again to read its lists; the pick
+// list drops down for the next choice unless the save came from the save
+// question of another action.
 void Form5::save(bool openPickList)
 {
     saveRefused_ = false;
@@ -325,7 +328,10 @@ void Form5::save(bool openPickList)
     }
     state_.amountsRecalculated = false;
     clearScreen();
-    setMode(RecipeMode::View);
+    setMode(RecipeMode::Idle);
+    // Idle, yet the title strip reads as after View: a recipe of the type is
+    // what the user picks next.
+    setTitleStrip(QString::fromLatin1(ModeCaption(RecipeMode::View)));
     fillTypeLists(openPickList);
 }
 
@@ -343,7 +349,10 @@ void Form5::deleteRecipe()
         return;
     }
     DeleteRecipe(cookbook_, *type, currentRecordNumber_, pickEntries(), currentListIndex_);
-    calculator_->clearNewYield();
+    // Nothing of the deleted recipe stays in the calculator or in a search.
+    calculator_->clear();
+    nameSearch_->clear();
+    ingredientSearch_->clear();
     state_ = RecipeScreenState{};
     clearScreen();
     setMode(RecipeMode::Idle);
@@ -402,6 +411,10 @@ void Form5::clearScreen()
 {
     amountWorkList_ = {};
     fields_->clearFields();
+    // Search, rename and a new cookbook stay open to the calculator and end
+    // in an emptied screen: nothing is left to rescale.
+    calculator_->hide();
+    state_.calculatorOpen = false;
     state_.recipeShown = false;
     state_.recipeChanged = false;
     applyCommandStates();
@@ -495,7 +508,8 @@ void Form5::setMode(RecipeMode mode)
     fields_->showNameBox(mode == RecipeMode::Create);
     if (mode != RecipeMode::Create)
         fields_->currentNamesPanel()->hide();
-    setTitleStrip(QString::fromLatin1(ModeCaption(mode)));
+    // A panel closing over the open calculator leaves its caption.
+    setTitleStrip(QString::fromLatin1(state_.calculatorOpen ? CalculatorCaption() : ModeCaption(mode)));
     applyCommandStates();
 }
 
@@ -523,9 +537,8 @@ void Form5::applyCommandStates()
     cookbookMenu_->setEnabled(on.cookbookMenus);
     set("mCalculate", on.calculate);
     set("mSearch", on.search);
-    // No other recipe or type is chosen while the calculator works on this one.
-    fields_->typeList()->setEnabled(!state_.calculatorOpen && !state_.searchOpen);
-    fields_->pickList()->setEnabled(!state_.calculatorOpen && !state_.searchOpen);
+    fields_->typeList()->setEnabled(on.pickLists);
+    fields_->pickList()->setEnabled(on.pickLists);
     set("mExit", !state_.panelOpen);
     set("mPrint", on.print);
     set("mWorksheet", on.worksheet);

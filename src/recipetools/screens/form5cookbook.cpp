@@ -4,6 +4,8 @@
 #include "common/programfolder.h"
 #include "cookbook/logic/cookbookselection.h"
 #include "recipetools/screens/cookbooktitlespanel.h"
+#include "recipetools/screens/ingredientsearchpanel.h"
+#include "recipetools/screens/namesearchpanel.h"
 #include "recipetools/screens/recipefieldspanel.h"
 #include "shell/logic/processvalues.h"
 #include "shell/kit/screenstatusbar.h"
@@ -32,6 +34,9 @@ void Form5::selectCookbook(int cookbook)
     WriteCurrentCookbook(cookbook);
     setPickEntries({});
     setCurrentNames({});
+    // Hits of the old cookbook would open records of the new one.
+    nameSearch_->clearResults();
+    ingredientSearch_->clearResults();
     fields_->typeList()->setCurrentIndex(-1);
     currentTypeName_.clear();
     loadCookbook();

@@ -138,6 +138,19 @@ std::optional<SearchHit> IngredientSearchPanel::selectedHit() const
     return results_->selectedHit();
 }
 
+void IngredientSearchPanel::clearResults()
+{
+    results_->clear();
+}
+
+void IngredientSearchPanel::clear()
+{
+    for (QLineEdit* box : boxes_)
+        box->clear();
+    typeList_->clearSelection();
+    clearResults();
+}
+
 QTableWidget* IngredientSearchPanel::grid() const
 {
     return results_->grid();

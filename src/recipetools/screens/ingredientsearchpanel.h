@@ -46,6 +46,11 @@ public:
 
     std::optional<SearchHit> selectedHit() const;
 
+    // Empties the grid and its labels.
+    void clearResults();
+    // Empties the three boxes and the type choice as well.
+    void clear();
+
     // Box 1 to 3 (Text13, Text14, Text15).
     QLineEdit* box(int number) const;
     QListWidget* typeList() const { return typeList_; }

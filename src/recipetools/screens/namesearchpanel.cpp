@@ -72,6 +72,17 @@ std::optional<SearchHit> NameSearchPanel::selectedHit() const
     return results_->selectedHit();
 }
 
+void NameSearchPanel::clearResults()
+{
+    results_->clear();
+}
+
+void NameSearchPanel::clear()
+{
+    searchBox_->clear();
+    clearResults();
+}
+
 QTableWidget* NameSearchPanel::grid() const
 {
     return results_->grid();

@@ -32,6 +32,11 @@ public:
     // The selected row; nothing when no row is selected.
     std::optional<SearchHit> selectedHit() const;
 
+    // Empties the grid and its labels.
+    void clearResults();
+    // Empties the search box as well.
+    void clear();
+
     QLineEdit* searchBox() const { return searchBox_; }
     QTableWidget* grid() const;
 

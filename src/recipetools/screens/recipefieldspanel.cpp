@@ -23,9 +23,11 @@
 
 namespace {
 
-// Field widths as the record keeps them; the amount box takes a little more
-// than the five stored characters.
-constexpr int kAmountBoxLength = 7;
+// Field widths as the record keeps them. An amount is typed as a decimal of
+// the record's five characters; shown as a fraction ("12 2/3") it may be
+// longer, so outside editing the box takes any length (QLineEdit's default).
+constexpr int kAmountLength = int(decltype(RecipeRecord::amounts)::value_type::kWidth);
+constexpr int kShownAmountLength = 32767;
 constexpr int kUnitLength = 10;
 constexpr int kIngredientLength = 35;
 constexpr int kOvenTemperatureLength = 4;
@@ -155,7 +157,7 @@ void RecipeFieldsPanel::buildLayout()
     for (int row = 0; row < kRecipeRows; ++row) {
         const int column = row < kRowsPerBlock ? 0 : 4;
         const int line = 2 + row % kRowsPerBlock;
-        text1_[row] = MakeBox(QStringLiteral("Text1_%1").arg(row), kAmountBoxLength, rows);
+        text1_[row] = MakeBox(QStringLiteral("Text1_%1").arg(row), kShownAmountLength, rows);
         text4_[row] = MakeBox(QStringLiteral("Text4_%1").arg(row), kUnitLength, rows);
         text5_[row] = MakeBox(QStringLiteral("Text5_%1").arg(row), kIngredientLength, rows);
         text1_[row]->setFixedWidth(56);
@@ -196,9 +198,7 @@ void RecipeFieldsPanel::buildLayout()
     combo4_->setObjectName(QStringLiteral("Combo4"));
     combo4_->setEditable(true);
     combo4_->setInsertPolicy(QComboBox::NoInsert);
-    QStringList sortedYields = kYieldTypes;
-    sortedYields.sort(Qt::CaseInsensitive);
-    combo4_->addItems(sortedYields);
+    combo4_->addItems(kYieldTypes); // in this order, servings first, not sorted
     combo4_->setCurrentIndex(-1);
     combo4_->setEditText(QString());
     // Three rows, each block's heading beside its first field, so that the
@@ -286,6 +286,9 @@ void RecipeFieldsPanel::setEditable(bool editable)
     editable_ = editable;
     text8_->setReadOnly(!editable);
     for (int row = 0; row < kRecipeRows; ++row) {
+        // A shorter limit cuts the text in the box: the amounts to show in
+        // the new mode are set after this.
+        text1_[row]->setMaxLength(editable ? kAmountLength : kShownAmountLength);
         text1_[row]->setReadOnly(!editable);
         text4_[row]->setReadOnly(!editable);
         text5_[row]->setReadOnly(!editable);

@@ -45,7 +45,9 @@ public:
     // elsewhere (the screen has shown why) and no drop list opens.
     void setEntryCheck(std::function<bool(QWidget* field, Qt::FocusReason reason)> check);
 
-    // Create and Modify take input; Idle and View show only.
+    // Create and Modify take input; Idle and View show only. Set it before
+    // the amounts of the mode: editing limits the amount boxes to the
+    // record's five characters and cuts a longer text.
     void setEditable(bool editable);
     bool editable() const { return editable_; }
     // In Create the name box lies in front of the pick list, else the list.

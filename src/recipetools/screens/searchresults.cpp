@@ -127,6 +127,12 @@ std::optional<SearchHit> SearchResults::selectedHit() const
     return SearchHit{grid_->text(row, 0), grid_->value(row, 1).toString()};
 }
 
+void SearchResults::clear()
+{
+    reset();
+    viewSelected_->setEnabled(false);
+}
+
 void SearchResults::showEvent(QShowEvent* event)
 {
     grid_->applySharedColors();

@@ -40,6 +40,9 @@ public:
              const std::function<QString(qsizetype)>& countText);
     // The selected row; nothing when no row is selected.
     std::optional<SearchHit> selectedHit() const;
+    // An empty grid under its heading, no count and no no-match panel, and
+    // "&View Selected Recipe" off: the hits of an earlier search are gone.
+    void clear();
     ScreenGrid* grid() const { return grid_; }
 
 signals:
