@@ -2,6 +2,7 @@
 // the whole range the calculator can produce: every hundredth of every whole
 // part from 0 to 999 lands where the fraction table says.
 #include "recipetools/logic/amountformat.h"
+#include "recipetools/logic/recipelifecycle.h"
 #include "fraction_lines.h"
 
 #include <QString>
@@ -161,23 +162,30 @@ TEST(FractionText, ConstantsAreSinglesNotDoubles)
     EXPECT_EQ(FractionText(0.85f), "3/4");
 }
 
+QStringList Decimals()
+{
+    QStringList decimals;
+    for (const AmountPick& pick : AmountPicks())
+        decimals << QString::fromLatin1(pick.decimal);
+    return decimals;
+}
+
 TEST(AmountPickList, FourteenEntriesAndTheirDecimals)
 {
-    EXPECT_EQ(AmountPickList(), (QStringList{"1/8", "1/4", "1/3", "1/2", "2/3", "3/4", "1", "1 1/8", "1 1/4",
-                                             "1 1/3", "1 1/2", "1 2/3", "1 3/4", "2"}));
-    EXPECT_EQ(AmountPickDecimals(), (QStringList{".125", ".25", ".34", ".5", ".67", ".75", "1", "1.125", "1.25",
-                                                 "1.34", "1.5", "1.67", "1.75", "2"}));
+    EXPECT_EQ(AmountPickTexts(), (QStringList{"1/8", "1/4", "1/3", "1/2", "2/3", "3/4", "1", "1 1/8", "1 1/4",
+                                              "1 1/3", "1 1/2", "1 2/3", "1 3/4", "2"}));
+    EXPECT_EQ(Decimals(), (QStringList{".125", ".25", ".34", ".5", ".67", ".75", "1", "1.125", "1.25", "1.34",
+                                       "1.5", "1.67", "1.75", "2"}));
 }
 
 TEST(AmountPickList, EachDecimalShowsAsItsEntry)
 {
-    ASSERT_EQ(AmountPickList().size(), 14);
-    ASSERT_EQ(AmountPickDecimals().size(), 14);
-    for (int i = 0; i < 14; ++i) {
-        SCOPED_TRACE(i);
-        EXPECT_EQ(FormatAmount(AmountPickDecimals()[i]), AmountPickList()[i]);
+    ASSERT_EQ(AmountPicks().size(), 14u);
+    for (const AmountPick& pick : AmountPicks()) {
+        SCOPED_TRACE(pick.fraction);
+        EXPECT_EQ(FormatAmount(QString::fromLatin1(pick.decimal)), QString::fromLatin1(pick.fraction));
         // Every decimal fits the five characters of the record's amount field.
-        EXPECT_LE(AmountPickDecimals()[i].size(), 5);
+        EXPECT_LE(qstrlen(pick.decimal), uint(kAmountLength));
     }
 }
 

@@ -1068,17 +1068,21 @@ TEST_F(Form5CalculatorTest, ARecipeViewedFromASearchUnderTheCalculatorClosesIt)
     EXPECT_TRUE(fields(*form)->pickList()->isEnabled());
 }
 
-TEST_F(Form5CalculatorTest, ARenameCancelledOverTheCalculatorLeavesItsCaption)
+// One panel at a time: the rename panel closes the calculator as its
+// "&Close" would, and cancelling the rename leaves the viewed recipe.
+TEST_F(Form5CalculatorTest, ARenameOverTheCalculatorClosesItFirst)
 {
     auto form = open();
     viewFourServings(*form);
     act(*form, "mCalculate")->trigger();
     act(*form, "mRename")->trigger();
     EXPECT_EQ(strip(*form), "Name Change");
+    EXPECT_TRUE(form->findChild<QFrame*>("Recipe Amount Calculator")->isHidden());
+    EXPECT_EQ(form->openPanel(), RecipePanel::Rename);
     form->findChild<QPushButton*>("Command12")->click();
-    EXPECT_EQ(strip(*form), "Calculate Amts.");
-    EXPECT_FALSE(act(*form, "mModify")->isEnabled());
-    EXPECT_FALSE(form->findChild<QFrame*>("Recipe Amount Calculator")->isHidden());
+    EXPECT_EQ(strip(*form), "View Recipe");
+    EXPECT_TRUE(act(*form, "mModify")->isEnabled());
+    EXPECT_EQ(form->openPanel(), RecipePanel::None);
 }
 
 TEST_F(Form5CalculatorTest, DeletingARecipeEmptiesTheCalculatorAndTheSearchFields)

@@ -96,7 +96,7 @@ TEST(SearchOptionsPanel, CaptionsAndSignals)
     EXPECT_TRUE(HasLabel(panel, "Search Options"));
     QSignalSpy byRecipe(&panel, &SearchOptionsPanel::byRecipeRequested);
     QSignalSpy byIngredient(&panel, &SearchOptionsPanel::byIngredientRequested);
-    QSignalSpy cancel(&panel, &SearchOptionsPanel::cancelRequested);
+    QSignalSpy cancel(&panel, &SearchOptionsPanel::closeRequested);
     Button(panel, "Search by &Recipe")->click();
     Button(panel, "Search by &Ingredient")->click();
     Button(panel, "Ca&ncel")->click();

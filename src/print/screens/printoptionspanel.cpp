@@ -208,8 +208,10 @@ void PrintOptionsPanel::exitPrintOptions()
         toggleLarge();
     if (fontSlots_)
         StorePrintFont(*fontSlots_, PrintFont());
-    hide();
+    // The screen takes the keyboard back while the panel is still up, so
+    // that hiding it does not pass the focus on to whatever comes next.
     emit exited();
+    hide();
 }
 
 void PrintOptionsPanel::copyCurrentPage()
@@ -244,14 +246,18 @@ void PrintOptionsPanel::autoSizeFont()
     recompose();
 }
 
+void PrintOptionsPanel::pressEscape()
+{
+    if (preview_->large())
+        toggleLarge();
+    else
+        exitPrintOptions();
+}
+
 void PrintOptionsPanel::keyPressEvent(QKeyEvent* event)
 {
-    // Escape leaves the large view first, then the panel.
     if (event->key() == Qt::Key_Escape) {
-        if (preview_->large())
-            toggleLarge();
-        else
-            exitPrintOptions();
+        pressEscape();
         return;
     }
     QFrame::keyPressEvent(event);

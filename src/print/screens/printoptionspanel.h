@@ -65,9 +65,12 @@ public:
     void printDocument();
     void toggleLarge();
     void autoSizeFont();
+    // Escape leaves the large view first, then the panel.
+    void pressEscape();
 
 signals:
-    // After "&Exit Print Options" has hidden the panel.
+    // "&Exit Print Options": the screen takes over again; the panel hides
+    // right after.
     void exited();
 
 protected:

@@ -88,26 +88,22 @@ QString FormatAmount(QStringView decimalText)
     return whole + u' ' + fraction;
 }
 
-const QStringList& AmountPickList()
-{
-    static const QStringList list = {
-        QStringLiteral("1/8"),   QStringLiteral("1/4"),   QStringLiteral("1/3"),   QStringLiteral("1/2"),
-        QStringLiteral("2/3"),   QStringLiteral("3/4"),   QStringLiteral("1"),     QStringLiteral("1 1/8"),
-        QStringLiteral("1 1/4"), QStringLiteral("1 1/3"), QStringLiteral("1 1/2"), QStringLiteral("1 2/3"),
-        QStringLiteral("1 3/4"), QStringLiteral("2"),
-    };
-    return list;
-}
-
-const QStringList& AmountPickDecimals()
+std::span<const AmountPick> AmountPicks()
 {
     // A third is .34, not the .33 the input help suggests; both show as
     // "1/3", and .34 is what the drop list has always written.
-    static const QStringList list = {
-        QStringLiteral(".125"),  QStringLiteral(".25"),  QStringLiteral(".34"),  QStringLiteral(".5"),
-        QStringLiteral(".67"),   QStringLiteral(".75"),  QStringLiteral("1"),    QStringLiteral("1.125"),
-        QStringLiteral("1.25"),  QStringLiteral("1.34"), QStringLiteral("1.5"),  QStringLiteral("1.67"),
-        QStringLiteral("1.75"),  QStringLiteral("2"),
+    static constexpr AmountPick kPicks[] = {
+        {"1/8", ".125"},   {"1/4", ".25"},   {"1/3", ".34"},   {"1/2", ".5"},    {"2/3", ".67"},
+        {"3/4", ".75"},    {"1", "1"},       {"1 1/8", "1.125"}, {"1 1/4", "1.25"}, {"1 1/3", "1.34"},
+        {"1 1/2", "1.5"},  {"1 2/3", "1.67"}, {"1 3/4", "1.75"}, {"2", "2"},
     };
-    return list;
+    return kPicks;
+}
+
+QStringList AmountPickTexts()
+{
+    QStringList texts;
+    for (const AmountPick& pick : AmountPicks())
+        texts << QString::fromLatin1(pick.fraction);
+    return texts;
 }

@@ -4,6 +4,7 @@
 // second, for the screen, printing and export.
 #include <QString>
 #include <QStringList>
+#include <span>
 
 // The whole part and the rest of a decimal amount. The rest is held in single
 // precision on purpose: the fraction boundaries fall where they do because of
@@ -37,7 +38,12 @@ double SnappedFraction(float fractionPart);
 // fraction text still leaves the blank: 3.05 gives "3 ", 2.9 gives "3 ".
 QString FormatAmount(QStringView decimalText);
 
-// The amount drop list of the recipe screen and the decimals its entries
-// write into the row: "1/3" writes ".34" on purpose.
-const QStringList& AmountPickList();
-const QStringList& AmountPickDecimals();
+// The amount drop list of the recipe screen: each entry as the list shows
+// it and the decimal it writes into the row ("1/3" writes ".34" on purpose).
+struct AmountPick {
+    const char* fraction;
+    const char* decimal;
+};
+std::span<const AmountPick> AmountPicks();
+// The entries as the list shows them.
+QStringList AmountPickTexts();

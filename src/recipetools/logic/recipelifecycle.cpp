@@ -8,10 +8,6 @@
 
 namespace {
 
-// The screen's yield type list may hold a longer text than the record takes;
-// it is cut here so that the record layer never has to.
-constexpr int kYieldTypeLength = 11;
-
 void LetPendingEventsRun()
 {
     if (QCoreApplication::instance())
@@ -37,7 +33,9 @@ RecipeRecord BuildRecipeRecord(const RecipeFields& fields)
     record.ovenTemperature.setText(fields.ovenTemperature);
     record.yieldAmount.setText(fields.yieldAmount);
     record.cookingTime.setText(fields.cookingTime);
-    // "Casserole(s)" is one character too long and is stored "Casserole(s".
+    // The screen's yield type list may hold a longer text than the record
+    // takes: "Casserole(s)" is one character too long and is stored
+    // "Casserole(s".
     record.yieldType.setText(QStringView(fields.yieldType).left(kYieldTypeLength));
     record.markUsed();
     return record;

@@ -11,9 +11,19 @@
 #include <QStringList>
 #include <array>
 
-inline constexpr int kRecipeRows = 20;
-inline constexpr int kRecipeNameLength = 40;   // the name box
-inline constexpr int kDirectionsLength = 1000;
+// The screen's fields take what the record's fields hold.
+inline constexpr int kRecipeRows = RecipeRecord::kRows;
+inline constexpr int kAmountLength = int(decltype(RecipeRecord::amounts)::value_type::kWidth);
+inline constexpr int kUnitLength = int(decltype(RecipeRecord::amountTypes)::value_type::kWidth);
+inline constexpr int kIngredientLength = int(decltype(RecipeRecord::ingredients)::value_type::kWidth);
+inline constexpr int kDirectionsLength = int(decltype(RecipeRecord::directions)::kWidth);
+inline constexpr int kOvenTemperatureLength = int(decltype(RecipeRecord::ovenTemperature)::kWidth);
+inline constexpr int kCookingTimeLength = int(decltype(RecipeRecord::cookingTime)::kWidth);
+inline constexpr int kYieldLength = int(decltype(RecipeRecord::yieldAmount)::kWidth);
+inline constexpr int kYieldTypeLength = int(decltype(RecipeRecord::yieldType)::kWidth);
+// The name box takes 40 characters; the name entry keeps up to 41.
+inline constexpr int kRecipeNameLength = 40;
+// The directions' length shows red above this.
 inline constexpr int kDirectionsRedAbove = 950;
 
 // The recipe as the screen holds it. `amounts` is the AmountWorkList: the

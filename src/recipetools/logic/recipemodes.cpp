@@ -1,14 +1,10 @@
 #include "recipetools/logic/recipemodes.h"
 
-RecipeCommandStates CommandStatesFor(const RecipeScreenState& state)
+namespace {
+
+RecipeCommandStates ByMode(const RecipeScreenState& state)
 {
     RecipeCommandStates on;
-    // Choosing another type or recipe under the calculator would leave the
-    // panel rescaling with the yield and work list of the recipe it was
-    // opened on; a search chooses them itself when it shows a hit.
-    on.pickLists = !state.calculatorOpen && !state.searchOpen;
-    if (state.panelOpen || state.searchOpen || state.printOpen)
-        return on; // the rename, search and print panels hold every command until they close
     const bool editing = state.mode == RecipeMode::Create || state.mode == RecipeMode::Modify;
     const bool shown = state.recipeShown
         && (state.mode == RecipeMode::View || state.mode == RecipeMode::Modify);
@@ -30,19 +26,40 @@ RecipeCommandStates CommandStatesFor(const RecipeScreenState& state)
     on.exportRecipe = shown && state.mode == RecipeMode::View;
     on.importRecipe = state.mode == RecipeMode::Create;
     on.cookbookMenus = true;
-    if (state.calculatorOpen) {
+    on.exit = true;
+    on.pickLists = true;
+    return on;
+}
+
+} // namespace
+
+RecipeCommandStates CommandStatesFor(const RecipeScreenState& state)
+{
+    RecipeCommandStates on = ByMode(state);
+    switch (state.panel) {
+    case RecipePanel::None:
+        break;
+    case RecipePanel::Calculator:
         // The calculator holds what would create, show, change, save, print
         // or copy a recipe; search, rename, the worksheet and the cookbooks
-        // stay as the mode has them.
-        on.create = false;
-        on.view = false;
-        on.modify = false;
-        on.save = false;
-        on.deleteRecipe = false;
-        on.print = false;
-        on.calculate = false;
-        on.spelling = false;
-        on.copy = false;
+        // stay as the mode has them. Choosing another type or recipe under
+        // it would leave the panel rescaling with the yield and work list of
+        // the recipe it was opened on.
+        on.create = on.view = on.modify = on.save = on.deleteRecipe = false;
+        on.print = on.calculate = on.spelling = on.copy = false;
+        on.pickLists = false;
+        break;
+    case RecipePanel::Rename:
+    case RecipePanel::Search:
+    case RecipePanel::Print:
+    case RecipePanel::Titles:
+        // These panels hold every command until they close; the lists are
+        // chosen by the panel itself (a search's hit) or not at all.
+        on = RecipeCommandStates{};
+        // Leaving the screen stays possible, except from the rename panel,
+        // which is left by its own buttons.
+        on.exit = state.panel != RecipePanel::Rename;
+        break;
     }
     return on;
 }

@@ -9,15 +9,15 @@ enum class RecipeMode {
     Modify,  // the shown recipe being edited
 };
 
+// The panel open over the screen; one at a time.
+enum class RecipePanel { None, Rename, Calculator, Search, Print, Titles };
+
 struct RecipeScreenState {
     RecipeMode mode = RecipeMode::Idle;
+    RecipePanel panel = RecipePanel::None;
     bool recipeShown = false;           // a recipe was loaded from its slot
     bool recipeChanged = false;         // RecipeChanged
     bool amountsRecalculated = false;   // AmountsRecalculated is 9
-    bool panelOpen = false;             // the rename panel
-    bool calculatorOpen = false;        // the amount calculator
-    bool searchOpen = false;            // a search panel
-    bool printOpen = false;             // the print options panel
     bool cookbookHasRecipes = false;    // any slot of the cookbook is used
 };
 
@@ -37,6 +37,7 @@ struct RecipeCommandStates {
     bool importRecipe = false;
     bool cookbookMenus = false;         // "Select Cook&book" and "Cookbook &Titles"
     bool worksheet = false;             // "Print &Worksheet"
+    bool exit = false;                  // "E&xit"
     bool pickLists = false;             // the type list and the recipe pick list
 
     bool operator==(const RecipeCommandStates&) const = default;

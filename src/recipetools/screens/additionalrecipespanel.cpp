@@ -2,20 +2,18 @@
 
 #include "cookbook/logic/cookbookfiles.h"
 #include "cookbook/logic/nameentry.h"
-#include "shell/kit/overlaypanel.h"
 
 #include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
 
-AdditionalRecipesPanel::AdditionalRecipesPanel(QWidget* parent) : QFrame(parent)
+AdditionalRecipesPanel::AdditionalRecipesPanel(QWidget* parent)
+    : OverlayPanel(QStringLiteral("SelectAdditionalRecipes"), QStringLiteral("Select Additional Recipes"), parent)
 {
-    setObjectName(QStringLiteral("SelectAdditionalRecipes"));
-    QLabel* title = MakeOverlayPanel(this, QStringLiteral("Select Additional Recipes"));
-    auto* grid = new QGridLayout(this);
-    grid->addWidget(title, 0, 0, 1, 4);
-    int row = 1;
+    auto* grid = new QGridLayout;
+    body()->addLayout(grid);
+    int row = 0;
     for (int slot = 0; slot < kSlots; ++slot) {
         if (slot % 2 == 0) {
             const QString heading = slot == 0 ? QStringLiteral("Page One Recipes:") : QStringLiteral("Next Page Recipes:");
@@ -39,21 +37,20 @@ AdditionalRecipesPanel::AdditionalRecipesPanel(QWidget* parent) : QFrame(parent)
         connect(typeLists_[slot], &QComboBox::activated, this, [this, slot] { fillRecipes(slot); });
         connect(clear, &QPushButton::clicked, this, [this, slot] { clearSlot(slot); });
     }
-    auto* print = new QPushButton(QStringLiteral("&Print Options"), this);
-    print->setObjectName(QStringLiteral("AdditionalPrintOptions"));
-    auto* cancel = new QPushButton(QStringLiteral("&Cancel"), this);
-    cancel->setObjectName(QStringLiteral("AdditionalCancel"));
-    grid->addWidget(print, row, 1);
-    grid->addWidget(cancel, row, 2, Qt::AlignLeft);
+    QPushButton* print = addButton(QStringLiteral("AdditionalPrintOptions"), QStringLiteral("&Print Options"));
+    QPushButton* cancelButton = addButton(QStringLiteral("AdditionalCancel"), QStringLiteral("&Cancel"));
     connect(print, &QPushButton::clicked, this, [this] {
         hide();
         emit accepted();
     });
-    connect(cancel, &QPushButton::clicked, this, [this] {
-        hide();
-        emit cancelled();
-    });
+    connect(cancelButton, &QPushButton::clicked, this, &AdditionalRecipesPanel::cancel);
+    connect(this, &AdditionalRecipesPanel::closeRequested, this, &AdditionalRecipesPanel::cancel);
+}
+
+void AdditionalRecipesPanel::cancel()
+{
     hide();
+    emit cancelled();
 }
 
 void AdditionalRecipesPanel::open(int cookbook, int slot, RecipeType type, const QString& entry)
@@ -67,7 +64,7 @@ void AdditionalRecipesPanel::open(int cookbook, int slot, RecipeType type, const
     fillRecipes(slot);
     recipeLists_[slot]->setCurrentIndex(recipeLists_[slot]->findData(entry));
     clearSlot(slot ^ 1);
-    RaiseOverlayPanel(this);
+    OverlayPanel::open();
 }
 
 void AdditionalRecipesPanel::fillRecipes(int slot)

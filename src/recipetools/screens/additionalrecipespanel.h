@@ -5,12 +5,13 @@
 // the next sheets.
 #include "recipetools/logic/recipeprint.h"
 
-#include <QFrame>
+#include "shell/kit/overlaypanel.h"
+
 #include <array>
 
 class QComboBox;
 
-class AdditionalRecipesPanel final : public QFrame {
+class AdditionalRecipesPanel final : public OverlayPanel {
     Q_OBJECT
 public:
     static constexpr int kSlots = 10;
@@ -26,6 +27,8 @@ public:
     QComboBox* recipeList(int slot) const { return recipeLists_[slot]; }
     // The slots with a recipe chosen.
     Queue queue() const;
+    // "&Cancel", and Escape: the panel closes and nothing is queued anew.
+    void cancel();
 
 signals:
     // "&Print Options": print the queue.

@@ -1,7 +1,7 @@
 #include "recipetools/screens/calculatorpanel.h"
 
 #include "recipetools/logic/amountcalculator.h"
-#include "shell/kit/overlaypanel.h"
+#include "recipetools/logic/recipelifecycle.h"
 
 #include <QEvent>
 #include <QFormLayout>
@@ -10,7 +10,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 namespace {
 
@@ -21,12 +20,10 @@ const char kNote[] =
 
 } // namespace
 
-CalculatorPanel::CalculatorPanel(QWidget* parent) : QFrame(parent)
+CalculatorPanel::CalculatorPanel(QWidget* parent)
+    : OverlayPanel(QString::fromLatin1(kCaption), QString::fromLatin1(kCaption), parent)
 {
-    setObjectName(QString::fromLatin1(kCaption));
-
-    auto* title = MakeOverlayPanel(this, QString::fromLatin1(kCaption));
-    title->setObjectName(QStringLiteral("CalculatorCaption"));
+    captionLabel()->setObjectName(QStringLiteral("CalculatorCaption"));
     auto* note = new QLabel(QString::fromLatin1(kNote), this);
     note->setObjectName(QStringLiteral("CalculatorNote"));
     note->setWordWrap(true);
@@ -45,10 +42,8 @@ CalculatorPanel::CalculatorPanel(QWidget* parent) : QFrame(parent)
     label24_ = new QLabel(this);
     label24_->setObjectName(QStringLiteral("Label24"));
 
-    command9_ = new QPushButton(QStringLiteral("Calculate New &Amounts"), this);
-    command9_->setObjectName(QStringLiteral("Command9"));
-    command10_ = new QPushButton(QStringLiteral("&Close"), this);
-    command10_->setObjectName(QStringLiteral("Command10"));
+    command9_ = addButton(QStringLiteral("Command9"), QStringLiteral("Calculate New &Amounts"));
+    command10_ = addButton(QStringLiteral("Command10"), QStringLiteral("&Close"));
     connect(command9_, &QPushButton::clicked, this, &CalculatorPanel::calculateRequested);
     connect(command10_, &QPushButton::clicked, this, &CalculatorPanel::closeRequested);
 
@@ -60,19 +55,9 @@ CalculatorPanel::CalculatorPanel(QWidget* parent) : QFrame(parent)
     changeTo->addWidget(text9_);
     changeTo->addWidget(label24_);
     changeTo->addStretch();
-    auto* form = new QFormLayout;
-    form->addRow(QStringLiteral("Current Yield Is:"), current);
-    form->addRow(QStringLiteral("Change Yield To:"), changeTo);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(command9_);
-    buttons->addWidget(command10_);
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(title);
-    layout->addWidget(note);
-    layout->addLayout(form);
-    layout->addLayout(buttons);
-    hide();
+    body()->addWidget(note);
+    form()->addRow(QStringLiteral("Current Yield Is:"), current);
+    form()->addRow(QStringLiteral("Change Yield To:"), changeTo);
 }
 
 void CalculatorPanel::open(const QString& currentYield, const QString& yieldType)
@@ -81,8 +66,7 @@ void CalculatorPanel::open(const QString& currentYield, const QString& yieldType
     label21_->setText(yieldType);
     label24_->setText(label21_->text());
     text9_->clear();
-    RaiseOverlayPanel(this);
-    text9_->setFocus(Qt::OtherFocusReason);
+    OverlayPanel::open(text9_);
 }
 
 QString CalculatorPanel::newYield() const
@@ -135,7 +119,7 @@ bool CalculatorPanel::eventFilter(QObject* watched, QEvent* event)
                 newYieldKeyReleased();
         }
     }
-    return QFrame::eventFilter(watched, event);
+    return OverlayPanel::eventFilter(watched, event);
 }
 
 void CalculatorPanel::newYieldKeyReleased()

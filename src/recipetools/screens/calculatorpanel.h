@@ -3,17 +3,15 @@
 // one, and the commands to calculate and to close. The panel keeps its own
 // labels in step with what is typed; the arithmetic is CalculateNewAmounts,
 // and the recipe screen runs it and shows its messages.
-#include <QFrame>
+#include "shell/kit/overlaypanel.h"
 
 class QLabel;
 class QLineEdit;
 class QPushButton;
 
-class CalculatorPanel final : public QFrame {
+class CalculatorPanel final : public OverlayPanel {
     Q_OBJECT
 public:
-    static constexpr int kYieldLength = 5;   // the yield field of the record
-
     explicit CalculatorPanel(QWidget* parent = nullptr);
 
     // Shows the recipe's yield number and type as the current yield, offers
@@ -36,7 +34,6 @@ public:
 signals:
     // "Calculate New &Amounts", or Enter in the new yield box.
     void calculateRequested();
-    void closeRequested();
     // A key was released in the new yield box: the type label now reads
     // `newType`, and the recipe's yield type should follow it.
     void yieldTypeTyped(const QString& newType);

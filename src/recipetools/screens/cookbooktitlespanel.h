@@ -1,12 +1,13 @@
 #pragma once
 // The panel "Cookbook Titles": one box of 30 characters for each of the
 // eight cookbooks.
-#include <QFrame>
+#include "shell/kit/overlaypanel.h"
+
 #include <QList>
 
 class QLineEdit;
 
-class CookbookTitlesPanel final : public QFrame {
+class CookbookTitlesPanel final : public OverlayPanel {
     Q_OBJECT
 public:
     explicit CookbookTitlesPanel(QWidget* parent);
@@ -16,7 +17,6 @@ public:
     QLineEdit* titleBox(int cookbook) const { return boxes_.value(cookbook - 1); }
 
 signals:
-    void closeRequested();
     void saveRequested(const QStringList& titles);
 
 private:

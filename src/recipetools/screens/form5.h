@@ -1,63 +1,60 @@
 #pragma once
 // Form5, the recipe screen: one recipe of the current cookbook at a time,
-// in four modes (Idle, Create, View, Modify). The fields live in
-// RecipeFieldsPanel; the rename and titles panels have classes of their own.
-// Each command is one QAction shared by its menu entry, toolbar button and
-// screen button, and CommandStatesFor decides which are enabled.
-#include "cookbook/logic/cookbooknames.h"
-#include "recipetools/logic/recipelifecycle.h"
-#include "recipetools/logic/recipemodes.h"
+// in four modes (Idle, Create, View, Modify). What the screen works on
+// lives in RecipeScreenModel; the screen holds the widgets, shows the model
+// and hands it what the user typed. The fields are RecipeFieldsPanel; the
+// rename, titles, calculator, search and print panels are classes of their
+// own. The commands are one table (form5commands.cpp), and
+// CommandStatesFor decides every enabled state.
+#include "recipetools/logic/recipescreenmodel.h"
 #include "recipetools/logic/recipesearch.h"
 
 #include "shell/kit/activitywindow.h"
 
-#include <array>
 #include <optional>
 
 class AdditionalRecipesPanel;
 class CalculatorPanel;
 class Clock;
-class PageBuilder;
-class PrintOptionsPanel;
-class RecipePrintOptions;
-struct PrintedRecipe;
+class CookbookTitlesPanel;
 class IngredientSearchPanel;
 class NameSearchPanel;
-class SearchOptionsPanel;
-class CookbookTitlesPanel;
-class Dialogs;
-class PanelColors;
-class QAction;
+class PageBuilder;
+class PrintOptionsPanel;
 class QGridLayout;
 class QLabel;
-class QMenu;
 class QPushButton;
 class RecipeFieldsPanel;
+class RecipePrintOptions;
 class RenamePanel;
-class ScreenStatusBar;
+class SearchOptionsPanel;
+struct PrintedRecipe;
+
+enum class Form5Command {
+    Create, View, Modify, Save, Delete, Rename, Calculate, Search, Spelling, Copy, Export, Import, Print,
+    Worksheet, Exit, Cookbook1, Cookbook2, Cookbook3, Cookbook4, Cookbook5, Cookbook6, Cookbook7, Cookbook8,
+    Titles, PanelColor, Backup, Restore, Help,
+};
 
 class Form5 final : public ActivityWindow {
     Q_OBJECT
 public:
     static constexpr int kHelpTopic = 1010;
-    // The screen's buttons, Command1(0) to Command1(9), by index.
-    enum CommandButtonIndex {
-        kCreateButton = 0, kViewButton, kModifyButton, kSaveButton, kPrintButton,
-        kCalculateButton, kDeleteButton, kSearchButton, kSpellingButton, kExitButton,
-    };
 
     explicit Form5(Dialogs& dialogs, QWidget* parent = nullptr);
+    ~Form5() override;
 
     // For callers that know a record number (search): shows the recipe of
     // that slot without the save question; the pick list position is that of
     // the first entry holding `entryText`.
     void showRecipeAt(RecordNumber recordNumber, const QString& entryText);
 
-    RecipeMode mode() const { return state_.mode; }
-    int cookbook() const { return cookbook_; }
-    RecordNumber currentRecordNumber() const { return currentRecordNumber_; }
-    const std::array<QString, kRecipeRows>& amountWorkList() const { return amountWorkList_; }
-    bool recipeChanged() const { return state_.recipeChanged; }
+    RecipeMode mode() const { return model_.state().mode; }
+    RecipePanel openPanel() const { return model_.state().panel; }
+    int cookbook() const { return model_.cookbook(); }
+    RecordNumber currentRecordNumber() const { return model_.recordNumber(); }
+    const RecipeScreenModel::AmountList& amountWorkList() const { return model_.amountWorkList(); }
+    bool recipeChanged() const { return model_.state().recipeChanged; }
     RecipeFieldsPanel* fieldsPanel() const { return fields_; }
     PrintOptionsPanel* printPanel() const { return printPanel_; }
     RecipePrintOptions* printOptions() const { return printOptions_; }
@@ -70,21 +67,22 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    // Building (form5layout.cpp).
-    void buildMenus();
-    void buildToolbars();
-    void buildCommandButtons(QWidget* parent);
+    // Building (form5commands.cpp).
+    std::vector<CommandRow<Form5Command>> commandRows();
+    void buildCommands(QWidget* buttonPanel);
     void arrangeCommandButtons(int perRow);
-    void buildCookbookMenu(QMenu* options);
+    void declareEscapeOrder();
 
-    // The cookbook.
+    // The cookbook (form5cookbook.cpp).
     void loadCookbook();
     void selectCookbook(int cookbook);
     void openTitles();
     void saveTitles(const QStringList& titles);
+    void closeTitles();
 
-    // The life of a recipe.
-    bool saveQuestionAllowsAction();
+    // The life of a recipe (form5recipe.cpp).
+    bool saveQuestionAllowsAction(SaveRoad road = SaveRoad::Question);
+    bool save(SaveRoad road);
     void chooseType();
     void fillTypeLists(bool openPickList);
     bool beginCreateOrView();
@@ -93,14 +91,20 @@ private:
     void loadChosenRecipe(int index);
     void loadRecipe(RecordNumber recordNumber, int listIndex);
     void modifyRecipe();
-    void saveRecipe();
-    void save(bool openPickList);
     void deleteRecipe();
     void openRename();
     void saveRename(const QString& newName);
     void closeRename();
     void clearScreen();
-    void exitScreen();
+
+    // The fields (form5fields.cpp).
+    void connectFields();
+    bool fieldEntryAllowed(QWidget* field, Qt::FocusReason reason);
+    void nameEnterPressed();
+    void recipeEdited();
+    void keepAmount(int row, const QString& text);
+    void informUser(const QString& title, const QString& text);
+    void tell(const Message& message);
 
     // The amount calculator (form5calculator.cpp).
     void openCalculator();
@@ -111,7 +115,9 @@ private:
     void buildSearchPanels(QWidget* area);
     void openSearch();
     void openSearchPanel(QWidget* panel);
+    void searchIngredients();
     void closeSearch();
+    void clearSearches();
     void viewFoundRecipe(const std::optional<SearchHit>& hit);
 
     // Printing (form5print.cpp).
@@ -123,24 +129,20 @@ private:
     PrintedRecipe printedRecipe() const;
     void composePrintout(PageBuilder& page);
 
-    // Fields.
-    bool fieldEntryAllowed(QWidget* field, Qt::FocusReason reason);
-    void nameEnterPressed();
-    void showAmountInstructions();
-    void recipeEdited();
-    void informUser(const QString& title, const QString& text);
-
+    // Showing the model.
     void setMode(RecipeMode mode);
-    void focusCommandButton(int index);
-    void setTitleStrip(const QString& caption, bool alarm = false);
+    void setPanel(RecipePanel panel);
+    void closeOpenPanel();
+    void showTitleStrip(const QString& caption, bool alarm = false);
+    void showModeCaption();
+    void showType(const QString& typeName);
+    void showLists();
     void applyCommandStates();
-    std::optional<RecipeType> chosenType() const;
-    void setPickEntries(const QStringList& entries);
-    void setCurrentNames(const QStringList& entries);
-    QStringList pickEntries() const;
-    QStringList currentNames() const;
+    void focusCommandButton(Form5Command command);
 
-    Dialogs& dialogs_;
+    RecipeScreenModel model_;
+    RecipeCommandStates on_;                 // the enabled states the rules read
+    std::unique_ptr<CommandTable<Form5Command>> commands_;
     RecipeFieldsPanel* fields_ = nullptr;
     RenamePanel* renamePanel_ = nullptr;
     CalculatorPanel* calculator_ = nullptr;
@@ -152,26 +154,9 @@ private:
     RecipePrintOptions* printOptions_ = nullptr;
     AdditionalRecipesPanel* additionalRecipes_ = nullptr;
     const Clock* clock_ = nullptr;
-    ScreenStatusBar* statusBar_ = nullptr;
-    PanelColors* panelColors_ = nullptr;
     QLabel* titleStrip_ = nullptr;           // SSPanel4
     QGridLayout* commandGrid_ = nullptr;
-    QList<QPushButton*> commandButtons_;       // Command1(0) to Command1(9)
     int buttonsPerRow_ = 0;
-    QMenu* cookbookMenu_ = nullptr;
-    std::array<QAction*, kCookbookCount> cookbookEntries_{};
-
-    int cookbook_ = 0;                       // CurrentCookbook
-    QStringList titles_;                     // CookbookTitles
-    RecipeScreenState state_;
-    RecordNumber currentRecordNumber_ = 0;   // CurrentRecordNumber
-    int currentListIndex_ = -1;              // CurrentListIndex
-    QString picturePath_;                    // PicturePath
-    std::array<QString, kRecipeRows> amountWorkList_; // AmountWorkList
-    QString currentTypeName_;                // CurrentTypeName
-    bool saveRefused_ = false;               // a save was refused: the action stops
-    bool savingRecordOnly_ = false;          // the rename's save question saves the record alone
-    bool skipSaveQuestion_ = false;          // a caller that knows the record number (SaveAnswer -333)
     bool worksheet_ = false;                 // the print panel composes the blank worksheet
     bool additionalActive_ = false;          // AdditionalRecipesActive
 };

@@ -13,17 +13,16 @@
 
 void Form5::openCalculator()
 {
-    setTitleStrip(QString::fromLatin1(CalculatorCaption()));
+    showTitleStrip(QString::fromLatin1(CalculatorCaption()));
     const QString yield = fields_->yieldAmountBox()->text();
     if (yield.isEmpty()) {
         informUser(QString::fromLatin1(kNoServingInformationTitle), QString::fromLatin1(kNoServingInformationText));
-        setTitleStrip(QString::fromLatin1(ModeCaption(state_.mode)));
-        if (state_.mode == RecipeMode::Modify)
+        showModeCaption();
+        if (model_.state().mode == RecipeMode::Modify)
             fields_->amountBox(0)->setFocus(Qt::OtherFocusReason);
         return;
     }
-    state_.calculatorOpen = true;
-    applyCommandStates();
+    setPanel(RecipePanel::Calculator);
     calculator_->open(yield, fields_->yieldTypeList()->currentText());
     calculator_->move(centralWidget()->width() - calculator_->width() - 24,
                       centralWidget()->height() - calculator_->height() - 72);
@@ -34,10 +33,10 @@ void Form5::calculateAmounts()
     CalculatorInput input;
     input.newYield = calculator_->newYield();
     input.currentYield = calculator_->currentYield();
-    input.workList = amountWorkList_;
+    input.workList = model_.amountWorkList();
     for (int row = 0; row < kRecipeRows; ++row)
         input.units[row] = fields_->unitBox(row)->text();
-    input.modifyMode = state_.mode == RecipeMode::Modify;
+    input.modifyMode = model_.state().mode == RecipeMode::Modify;
     const CalculatorResult result = CalculateNewAmounts(input);
 
     if (result.outcome == CalculatorOutcome::YieldOutOfRange) {
@@ -51,25 +50,25 @@ void Form5::calculateAmounts()
     for (int row = 0; row < result.rowsDone; ++row) {
         fields_->amountBox(row)->setText(result.amountBoxes[row]);
         fields_->unitBox(row)->setText(result.units[row]);
-        amountWorkList_[row] = result.workList[row];
+        model_.amountWorkList()[row] = result.workList[row];
     }
     if (result.outcome == CalculatorOutcome::CalculationError) {
         informUser(QString::fromLatin1(kCalculatorErrorTitle), QString::fromLatin1(kCalculatorErrorText));
-        state_.amountsRecalculated = false;
+        model_.setAmountsRecalculated(false);
         return;
     }
-    state_.amountsRecalculated = true;
+    model_.setAmountsRecalculated(true);
     calculator_->setCurrentYield(fields_->yieldAmountBox()->text());
     applyCommandStates();
 }
 
 void Form5::closeCalculator()
 {
-    state_.calculatorOpen = false;
-    setMode(state_.mode);
-    if (state_.mode == RecipeMode::Modify)
+    setPanel(RecipePanel::None);
+    showModeCaption();
+    if (model_.state().mode == RecipeMode::Modify)
         fields_->amountBox(0)->setFocus(Qt::OtherFocusReason);
     else
-        focusCommandButton(kCalculateButton);
+        focusCommandButton(Form5Command::Calculate);
     calculator_->hide();
 }

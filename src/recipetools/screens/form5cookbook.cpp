@@ -4,11 +4,9 @@
 #include "common/programfolder.h"
 #include "cookbook/logic/cookbookselection.h"
 #include "recipetools/screens/cookbooktitlespanel.h"
-#include "recipetools/screens/ingredientsearchpanel.h"
-#include "recipetools/screens/namesearchpanel.h"
 #include "recipetools/screens/recipefieldspanel.h"
-#include "shell/logic/processvalues.h"
 #include "shell/kit/screenstatusbar.h"
+#include "shell/logic/processvalues.h"
 
 #include <QAction>
 #include <QApplication>
@@ -17,49 +15,51 @@
 void Form5::loadCookbook()
 {
     EnterProgramFolder();
-    cookbook_ = ReadCurrentCookbook();
-    titles_ = ReadCookbookTitles();
-    for (int i = 0; i < kCookbookCount; ++i) {
-        cookbookEntries_[i]->setText(CookbookMenuCaption(i + 1, titles_.value(i)));
-        cookbookEntries_[i]->setChecked(i + 1 == cookbook_);
+    model_.loadCookbook();
+    for (int cookbook = 1; cookbook <= kCookbookCount; ++cookbook) {
+        QAction* entry = commands_->action(Form5Command(int(Form5Command::Cookbook1) + cookbook - 1));
+        entry->setText(CookbookMenuCaption(cookbook, model_.title(cookbook)));
+        entry->setChecked(cookbook == model_.cookbook());
     }
-    setWindowTitle(CookbookCaption(Process().FamilyName, cookbook_, titles_.value(cookbook_ - 1)));
+    setWindowTitle(CookbookCaption(Process().FamilyName, model_.cookbook(), model_.title(model_.cookbook())));
 }
 
+// No save question here: what was typed and not saved is gone.
 void Form5::selectCookbook(int cookbook)
 {
-    // No save question here: what was typed and not saved is gone.
-    state_ = RecipeScreenState{};
     clearScreen();
-    WriteCurrentCookbook(cookbook);
-    setPickEntries({});
-    setCurrentNames({});
+    model_.selectCookbook(cookbook);
+    showLists();
     // Hits of the old cookbook would open records of the new one.
-    nameSearch_->clearResults();
-    ingredientSearch_->clearResults();
+    clearSearches();
     fields_->typeList()->setCurrentIndex(-1);
-    currentTypeName_.clear();
     loadCookbook();
     setMode(RecipeMode::Idle);
     fields_->showCurrentNames();
-    statusBar_->setActivity(windowTitle());
+    screenStatusBar()->setActivity(windowTitle());
     QApplication::processEvents();
-    focusCommandButton(kViewButton);
+    focusCommandButton(Form5Command::View);
 }
 
 void Form5::openTitles()
 {
-    titlesPanel_->open(ReadCookbookTitles());
-    titlesPanel_->move((centralWidget()->width() - titlesPanel_->width()) / 2,
-                       (centralWidget()->height() - titlesPanel_->height()) / 2);
+    closeOpenPanel();
+    setPanel(RecipePanel::Titles);
+    titlesPanel_->open(model_.titles());
+    titlesPanel_->centreInParent();
 }
 
 void Form5::saveTitles(const QStringList& titles)
 {
-    WriteCookbookTitles(titles);
-    focusCommandButton(kCreateButton);
-    titlesPanel_->hide();
+    model_.saveTitles(titles);
+    closeTitles();
     loadCookbook();
-    applyCommandStates();
-    statusBar_->setActivity(windowTitle());
+    screenStatusBar()->setActivity(windowTitle());
+}
+
+void Form5::closeTitles()
+{
+    focusCommandButton(Form5Command::Create);
+    titlesPanel_->hide();
+    setPanel(RecipePanel::None);
 }

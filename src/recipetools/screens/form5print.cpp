@@ -11,11 +11,9 @@
 #include "print/logic/guidelines.h"
 #include "print/logic/pagebuilder.h"
 #include "print/logic/printfont.h"
-#include "shell/kit/panelcolors.h"
 #include "print/screens/printoptionspanel.h"
 #include "shell/kit/screenstatusbar.h"
 
-#include <QAction>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -36,7 +34,7 @@ const Clock& SystemTime()
 void Form5::buildPrintPanel(QWidget* area)
 {
     clock_ = &SystemTime();
-    printPanel_ = new PrintOptionsPanel(dialogs_, kAutoSizeTestLine, Settings::Form5GuideLines, area);
+    printPanel_ = new PrintOptionsPanel(dialogs(), kAutoSizeTestLine, Settings::Form5GuideLines, area);
     printOptions_ = new RecipePrintOptions;
     printPanel_->addOptionGroup(printOptions_);
     printPanel_->setComposer([this](PageBuilder& page) { composePrintout(page); });
@@ -53,9 +51,6 @@ void Form5::buildPrintPanel(QWidget* area)
         printPanel_->recompose();
     });
     connect(printPanel_, &PrintOptionsPanel::exited, this, &Form5::leavePrintOptions);
-    connect(findChild<QAction*>(QStringLiteral("mPrint")), &QAction::triggered, this, [this] { openPrintPanel(false); });
-    connect(findChild<QAction*>(QStringLiteral("mWorksheet")), &QAction::triggered, this,
-            [this] { openPrintPanel(true); });
     // Each load of the screen starts from the default layout, amount format
     // and font size.
     PrintFont().size = 12;
@@ -70,11 +65,10 @@ void Form5::openPrintPanel(bool worksheet)
 {
     worksheet_ = worksheet;
     additionalActive_ = false;
-    state_.printOpen = true;
-    applyCommandStates();
+    setPanel(RecipePanel::Print);
     menuBar()->setEnabled(false);
-    statusBar_->setActivity(worksheet ? QStringLiteral("Print Worksheet") : QStringLiteral("Print Options"));
-    printOptions_->setPictureAvailable(!worksheet && !picturePath_.isEmpty());
+    screenStatusBar()->setActivity(worksheet ? QStringLiteral("Print Worksheet") : QStringLiteral("Print Options"));
+    printOptions_->setPictureAvailable(!worksheet && !model_.picturePath().isEmpty());
     printOptions_->setWorksheet(worksheet);
     printPanel_->setDocumentName(worksheet ? QStringLiteral("Recipe WorkSheet") : fields_->pickList()->currentText());
     printPanel_->setGeometry(centralWidget()->rect());
@@ -84,20 +78,20 @@ void Form5::openPrintPanel(bool worksheet)
 void Form5::leavePrintOptions()
 {
     additionalRecipes_->hide();
-    state_.printOpen = false;
+    setPanel(RecipePanel::None);
     menuBar()->setEnabled(true);
-    statusBar_->setActivity(windowTitle());
+    screenStatusBar()->setActivity(windowTitle());
     applyCommandStates();
     fields_->pickList()->setFocus(Qt::OtherFocusReason);
 }
 
 void Form5::openAdditionalRecipes()
 {
-    const std::optional<RecipeType> type = RecipeTypeFromName(currentTypeName_);
+    const std::optional<RecipeType> type = RecipeTypeFromName(model_.currentTypeName());
     if (!type)
         return;
     const bool bottom = printOptions_->layout() == PrintLayout::BottomHalf || additionalActive_;
-    additionalRecipes_->open(cookbook_, bottom ? 1 : 0, *type, fields_->pickList()->currentData().toString());
+    additionalRecipes_->open(model_.cookbook(), bottom ? 1 : 0, *type, fields_->pickList()->currentData().toString());
     additionalRecipes_->move((printPanel_->width() - additionalRecipes_->width()) / 2,
                              (printPanel_->height() - additionalRecipes_->height()) / 2);
 }
@@ -105,11 +99,11 @@ void Form5::openAdditionalRecipes()
 PrintedRecipe Form5::printedRecipe() const
 {
     PrintedRecipe recipe;
-    recipe.typeName = currentTypeName_;
+    recipe.typeName = model_.currentTypeName();
     recipe.name = fields_->pickList()->currentText();
     recipe.fields = fields_->fields();
-    recipe.amountsAreDecimals = state_.mode == RecipeMode::Modify;
-    recipe.picturePath = picturePath_;
+    recipe.amountsAreDecimals = model_.state().mode == RecipeMode::Modify;
+    recipe.picturePath = model_.picturePath();
     return recipe;
 }
 
@@ -125,7 +119,7 @@ void Form5::composePrintout(PageBuilder& page)
     settings.font = PrintFont();
     settings.printPicture = printOptions_->printPicture();
     if (additionalActive_)
-        ComposeAdditionalPages(page, cookbook_, additionalRecipes_->queue(), settings, clock_->today());
+        ComposeAdditionalPages(page, model_.cookbook(), additionalRecipes_->queue(), settings, clock_->today());
     else
         ComposeRecipePage(page, printedRecipe(), settings, clock_->today());
 }

@@ -10,6 +10,8 @@
 #include "recipetools/screens/recipefieldspanel.h"
 #include "recipetools/screens/searchoptionspanel.h"
 
+#include <QPushButton>
+
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
@@ -26,49 +28,51 @@ void Form5::buildSearchPanels(QWidget* area)
             [this] { openSearchPanel(nameSearch_); });
     connect(searchOptions_, &SearchOptionsPanel::byIngredientRequested, this,
             [this] { openSearchPanel(ingredientSearch_); });
-    connect(searchOptions_, &SearchOptionsPanel::cancelRequested, this, &Form5::closeSearch);
+    connect(searchOptions_, &SearchOptionsPanel::closeRequested, this, &Form5::closeSearch);
 
     connect(nameSearch_, &NameSearchPanel::searchRequested, this, [this](const QString& text) {
-        nameSearch_->runSearch([this, text] { return SearchByName(cookbook_, text); });
+        nameSearch_->runSearch([this, text] { return SearchByName(model_.cookbook(), text); });
     });
     connect(nameSearch_, &NameSearchPanel::viewAllRequested, this, [this] {
-        nameSearch_->runSearch([this] { return SearchByName(cookbook_, kViewAllText); });
+        nameSearch_->runSearch([this] { return SearchByName(model_.cookbook(), kViewAllText); });
     });
     connect(nameSearch_, &NameSearchPanel::viewSelectedRequested, this,
             [this] { viewFoundRecipe(nameSearch_->selectedHit()); });
     connect(nameSearch_, &NameSearchPanel::closeRequested, this, &Form5::closeSearch);
 
-    const auto searchIngredients = [this] {
-        const IngredientQuery query = ingredientSearch_->query();
-        const QStringList refusals = IngredientSearchRefusals(query, ingredientSearch_->searchByType());
-        for (const QString& refusal : refusals) {
-            dialogs_.tell(kSearchTitle, refusal, Icon::Question);
-            if (refusal == kSelectTypeMessage)
-                ingredientSearch_->typeList()->setFocus(Qt::OtherFocusReason);
-            else
-                ingredientSearch_->box(1)->setFocus(Qt::OtherFocusReason);
-        }
-        if (!refusals.isEmpty())
-            return;
-        std::array<QString, 20> buffer;
-        for (int row = 0; row < kRecipeRows; ++row)
-            buffer[row] = fields_->ingredientBox(row)->text();
-        ingredientSearch_->runSearch([this, query, buffer] { return SearchByIngredient(cookbook_, query, buffer); });
-    };
-    connect(ingredientSearch_, &IngredientSearchPanel::searchAllRequested, this, searchIngredients);
-    connect(ingredientSearch_, &IngredientSearchPanel::searchByTypeRequested, this, searchIngredients);
+    connect(ingredientSearch_, &IngredientSearchPanel::searchAllRequested, this, &Form5::searchIngredients);
+    connect(ingredientSearch_, &IngredientSearchPanel::searchByTypeRequested, this, &Form5::searchIngredients);
     connect(ingredientSearch_, &IngredientSearchPanel::viewSelectedRequested, this,
             [this] { viewFoundRecipe(ingredientSearch_->selectedHit()); });
     connect(ingredientSearch_, &IngredientSearchPanel::closeRequested, this, &Form5::closeSearch);
 }
 
+void Form5::searchIngredients()
+{
+    const IngredientQuery query = ingredientSearch_->query();
+    const QStringList refusals = IngredientSearchRefusals(query, ingredientSearch_->searchByType());
+    for (const QString& refusal : refusals) {
+        dialogs().tell(kSearchTitle, refusal, Icon::Question);
+        if (refusal == kSelectTypeMessage)
+            ingredientSearch_->typeList()->setFocus(Qt::OtherFocusReason);
+        else
+            ingredientSearch_->box(1)->setFocus(Qt::OtherFocusReason);
+    }
+    if (!refusals.isEmpty())
+        return;
+    std::array<QString, kRecipeRows> buffer;
+    for (int row = 0; row < kRecipeRows; ++row)
+        buffer[row] = fields_->ingredientBox(row)->text();
+    const int cookbook = model_.cookbook();
+    ingredientSearch_->runSearch([cookbook, query, buffer] { return SearchByIngredient(cookbook, query, buffer); });
+}
+
 void Form5::openSearch()
 {
-    state_.searchOpen = true;
-    applyCommandStates();
-    searchOptions_->open();
-    searchOptions_->move((centralWidget()->width() - searchOptions_->width()) / 2,
-                         (centralWidget()->height() - searchOptions_->height()) / 3);
+    closeOpenPanel();
+    setPanel(RecipePanel::Search);
+    searchOptions_->open(searchOptions_->byRecipeButton());
+    searchOptions_->centreInParent(1.0 / 3);
 }
 
 void Form5::openSearchPanel(QWidget* panel)
@@ -83,12 +87,17 @@ void Form5::openSearchPanel(QWidget* panel)
 
 void Form5::closeSearch()
 {
-    state_.searchOpen = false;
-    applyCommandStates();
-    focusCommandButton(kSearchButton);
+    setPanel(RecipePanel::None);
+    focusCommandButton(Form5Command::Search);
     searchOptions_->hide();
     nameSearch_->hide();
     ingredientSearch_->hide();
+}
+
+void Form5::clearSearches()
+{
+    nameSearch_->clear();
+    ingredientSearch_->clear();
 }
 
 // "&View Selected Recipe": the type of the row is viewed and the recipe whose
@@ -97,12 +106,11 @@ void Form5::viewFoundRecipe(const std::optional<SearchHit>& hit)
 {
     if (!hit)
         return;
-    fields_->typeList()->setCurrentText(hit->typeName.trimmed());
+    showType(hit->typeName.trimmed());
     const RecordNumber recordNumber = RecordNumberOf(hit->entry);
     const QString wanted = hit->entry.trimmed();
     closeSearch();
-    state_.recipeChanged = false;
-    state_.amountsRecalculated = false;
+    model_.dropChanges();
     viewRecipes();
     fields_->pickList()->hidePopup();
     showRecipeAt(recordNumber, wanted);

@@ -1,7 +1,6 @@
 #include "recipetools/screens/ingredientsearchpanel.h"
 
 #include "cookbook/logic/cookbooknames.h"
-#include "shell/kit/overlaypanel.h"
 #include "recipetools/screens/searchresults.h"
 
 #include <QGridLayout>
@@ -15,11 +14,10 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
-IngredientSearchPanel::IngredientSearchPanel(QWidget* parent) : QFrame(parent)
+IngredientSearchPanel::IngredientSearchPanel(QWidget* parent)
+    : OverlayPanel(QStringLiteral("Search Recipes by Ingredient"), QStringLiteral("Search Recipes by Ingredient"), parent)
 {
-    setObjectName(QStringLiteral("Search Recipes by Ingredient"));
-
-    auto* title = MakeOverlayPanel(this, QStringLiteral("Search Recipes by Ingredient"));
+    QLabel* title = captionLabel();
     title->setObjectName(QStringLiteral("lblSearchByIngredient"));
     title->setAlignment(Qt::AlignCenter);
 
@@ -89,18 +87,14 @@ IngredientSearchPanel::IngredientSearchPanel(QWidget* parent) : QFrame(parent)
     commands->addStretch();
     commands->addWidget(searchAll);
     commands->addWidget(searchByType);
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(title);
-    layout->addLayout(top);
-    layout->addLayout(commands);
-    layout->addWidget(results_, 1);
-    hide();
+    body()->addLayout(top);
+    body()->addLayout(commands);
+    body()->addWidget(results_, 1);
 }
 
 void IngredientSearchPanel::open()
 {
-    RaiseOverlayPanel(this);
-    boxes_[0]->setFocus(Qt::OtherFocusReason);
+    OverlayPanel::open(boxes_[0]);
 }
 
 IngredientQuery IngredientSearchPanel::query() const

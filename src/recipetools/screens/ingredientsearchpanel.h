@@ -6,7 +6,7 @@
 // IngredientSearchRefusals, runs SearchByIngredient and hands the rows back.
 #include "recipetools/logic/recipesearch.h"
 
-#include <QFrame>
+#include "shell/kit/overlaypanel.h"
 #include <array>
 #include <functional>
 #include <optional>
@@ -20,7 +20,7 @@ class QRadioButton;
 class QTableWidget;
 class SearchResults;
 
-class IngredientSearchPanel final : public QFrame {
+class IngredientSearchPanel final : public OverlayPanel {
     Q_OBJECT
 public:
     explicit IngredientSearchPanel(QWidget* parent);
@@ -62,7 +62,6 @@ signals:
     void searchByTypeRequested();
     // "&View Selected Recipe" or a double click, only with a row selected.
     void viewSelectedRequested();
-    void closeRequested();
 
 private:
     void command(bool byType);

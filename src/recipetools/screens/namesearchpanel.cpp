@@ -1,6 +1,5 @@
 #include "recipetools/screens/namesearchpanel.h"
 
-#include "shell/kit/overlaypanel.h"
 #include "recipetools/screens/searchresults.h"
 
 #include <QEvent>
@@ -11,11 +10,10 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
-NameSearchPanel::NameSearchPanel(QWidget* parent) : QFrame(parent)
+NameSearchPanel::NameSearchPanel(QWidget* parent)
+    : OverlayPanel(QStringLiteral("Search Files by Recipe"), QStringLiteral("Search Files by Recipe"), parent)
 {
-    setObjectName(QStringLiteral("Search Files by Recipe"));
-
-    auto* title = MakeOverlayPanel(this, QStringLiteral("Search Files by Recipe"));
+    QLabel* title = captionLabel();
     title->setObjectName(QStringLiteral("lblSearchByRecipe"));
     title->setAlignment(Qt::AlignCenter);
 
@@ -44,17 +42,13 @@ NameSearchPanel::NameSearchPanel(QWidget* parent) : QFrame(parent)
     entry->addWidget(searchBox_, 1);
     entry->addWidget(searchButton);
     entry->addWidget(viewAllButton);
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(title);
-    layout->addLayout(entry);
-    layout->addWidget(results_, 1);
-    hide();
+    body()->addLayout(entry);
+    body()->addWidget(results_, 1);
 }
 
 void NameSearchPanel::open()
 {
-    RaiseOverlayPanel(this);
-    searchBox_->setFocus(Qt::OtherFocusReason);
+    OverlayPanel::open(searchBox_);
 }
 
 void NameSearchPanel::showResults(const QList<SearchHit>& hits)
@@ -94,7 +88,7 @@ bool NameSearchPanel::eventFilter(QObject* watched, QEvent* event)
     // comes back to type a word.
     if (watched == searchBox_ && event->type() == QEvent::FocusIn && searchBox_->text() == kViewAllText)
         searchBox_->clear();
-    return QFrame::eventFilter(watched, event);
+    return OverlayPanel::eventFilter(watched, event);
 }
 
 void NameSearchPanel::search()

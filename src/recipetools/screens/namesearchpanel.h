@@ -5,7 +5,7 @@
 // search with a signal, and the screen runs it and hands the rows back.
 #include "recipetools/logic/recipesearch.h"
 
-#include <QFrame>
+#include "shell/kit/overlaypanel.h"
 #include <functional>
 #include <optional>
 
@@ -13,7 +13,7 @@ class QLineEdit;
 class QTableWidget;
 class SearchResults;
 
-class NameSearchPanel final : public QFrame {
+class NameSearchPanel final : public OverlayPanel {
     Q_OBJECT
 public:
     explicit NameSearchPanel(QWidget* parent);
@@ -47,7 +47,6 @@ signals:
     void viewAllRequested();
     // "&View Selected Recipe" or a double click, only with a row selected.
     void viewSelectedRequested();
-    void closeRequested();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

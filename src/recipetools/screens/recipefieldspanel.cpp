@@ -1,10 +1,11 @@
 #include "recipetools/screens/recipefieldspanel.h"
 
 #include "common/colors.h"
-#include "common/numbertext.h"
 #include "common/widgets/qtcolors.h"
 #include "cookbook/logic/cookbooknames.h"
+#include "cookbook/logic/nameentry.h"
 #include "recipetools/logic/amountformat.h"
+#include "recipetools/logic/recipewords.h"
 #include "shell/kit/droplist.h"
 
 #include <QComboBox>
@@ -23,27 +24,12 @@
 
 namespace {
 
-// Field widths as the record keeps them. An amount is typed as a decimal of
-// the record's five characters; shown as a fraction ("12 2/3") it may be
-// longer, so outside editing the box takes any length (QLineEdit's default).
-constexpr int kAmountLength = int(decltype(RecipeRecord::amounts)::value_type::kWidth);
+// An amount is typed as a decimal of the record's five characters; shown as
+// a fraction ("12 2/3") it may be longer, so outside editing the box takes
+// any length (QLineEdit's default).
 constexpr int kShownAmountLength = 32767;
-constexpr int kUnitLength = 10;
-constexpr int kIngredientLength = 35;
-constexpr int kOvenTemperatureLength = 4;
-constexpr int kCookingTimeLength = 20;
-constexpr int kYieldLength = 5;
-constexpr int kRowsPerBlock = 10;
+constexpr int kRowsPerBlock = kRecipeRows / 2;
 constexpr qint32 kRedCounter = 255;
-
-const QStringList kSingularUnits = {"bottle", "can",    "cup",   "dash",  "gallon", "large",
-                                    "lb.",    "medium", "oz.",   "piece", "pkg.",   "quart",
-                                    "slice",  "small",  "Tbsp.", "tsp.",  "whole"};
-const QStringList kPluralUnits = {"bottles", "cans",   "cups",   "dashes", "gallons", "large",
-                                  "lbs.",    "medium", "ozs.",   "pieces", "pkgs.",   "quarts",
-                                  "slices",  "small",  "Tbsps.", "tsps.",  "whole"};
-const QStringList kYieldTypes = {"Serving(s)", "Casserole(s)", "Cake(s)",   "Pie(s)",   "Dozen",
-                                 "Loaf(s)",    "Pieces",       "Gallon(s)", "Quart(s)"};
 
 QLineEdit* MakeBox(const QString& name, int maxLength, QWidget* parent)
 {
@@ -92,9 +78,9 @@ RecipeFieldsPanel::RecipeFieldsPanel(QWidget* parent) : QWidget(parent)
     setObjectName(QStringLiteral("RecipeFields"));
     buildLayout();
 
-    combo3_ = new DropList(QStringLiteral("Combo3"), AmountPickList(), this);
-    combo5_ = new DropList(QStringLiteral("Combo5"), kSingularUnits, this);
-    combo6_ = new DropList(QStringLiteral("Combo6"), kPluralUnits, this);
+    combo3_ = new DropList(QStringLiteral("Combo3"), AmountPickTexts(), this);
+    combo5_ = new DropList(QStringLiteral("Combo5"), SingularUnits(), this);
+    combo6_ = new DropList(QStringLiteral("Combo6"), PluralUnits(), this);
     for (DropList* list : {combo3_, combo5_, combo6_}) {
         connect(list, &DropList::picked, this, &RecipeFieldsPanel::dropListPicked);
         connect(list, &DropList::givingFocusBack, this, [this](QLineEdit* box) { returningFrom_ = box; });
@@ -198,7 +184,7 @@ void RecipeFieldsPanel::buildLayout()
     combo4_->setObjectName(QStringLiteral("Combo4"));
     combo4_->setEditable(true);
     combo4_->setInsertPolicy(QComboBox::NoInsert);
-    combo4_->addItems(kYieldTypes); // in this order, servings first, not sorted
+    combo4_->addItems(YieldTypes()); // in this order, servings first, not sorted
     combo4_->setCurrentIndex(-1);
     combo4_->setEditText(QString());
     // Three rows, each block's heading beside its first field, so that the
@@ -274,6 +260,23 @@ void RecipeFieldsPanel::showCurrentNames()
     namesPanel_->move(name.right() - namesPanel_->width(), name.bottom() + 6);
     namesPanel_->show();
     namesPanel_->raise();
+}
+
+void RecipeFieldsPanel::showPickEntries(const QStringList& entries)
+{
+    combo2_->clear();
+    for (const QString& entry : entries)
+        combo2_->addItem(RecipeNameOf(entry), entry);
+    combo2_->setCurrentIndex(-1);
+}
+
+void RecipeFieldsPanel::showCurrentNameEntries(const QStringList& entries)
+{
+    list1_->clear();
+    for (const QString& entry : entries) {
+        auto* item = new QListWidgetItem(RecipeNameOf(entry), list1_);
+        item->setData(Qt::UserRole, entry);
+    }
 }
 
 void RecipeFieldsPanel::setEntryCheck(std::function<bool(QWidget*, Qt::FocusReason)> check)
@@ -446,7 +449,7 @@ void RecipeFieldsPanel::fieldEntered(QWidget* field, Qt::FocusReason reason)
     const int unitRow = rowOf(qobject_cast<QLineEdit*>(field), text4_);
     if (unitRow >= 0) {
         const QString amount = text1_[unitRow]->text();
-        (Val(amount) > 1 ? combo6_ : combo5_)->openOver(text4_[unitRow]);
+        (TakesPluralUnits(amount) ? combo6_ : combo5_)->openOver(text4_[unitRow]);
     }
 }
 
@@ -518,7 +521,7 @@ void RecipeFieldsPanel::showDirectionsLength()
 void RecipeFieldsPanel::dropListPicked(QLineEdit* box, int index, const QString& text)
 {
     if (const int row = rowOf(box, text1_); row >= 0) {
-        const QString decimal = AmountPickDecimals().value(index);
+        const QString decimal = QString::fromLatin1(AmountPicks()[size_t(index)].decimal);
         box->setText(decimal);
         emit amountPicked(row, decimal);
         emit recipeEdited();

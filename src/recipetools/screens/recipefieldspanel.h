@@ -38,6 +38,10 @@ public:
     // Shows "Current Recipe Names" right under the name box.
     void showCurrentNames();
     QListWidget* currentNamesList() const { return list1_; }
+    // The lists show the entries' recipe names; each item keeps its whole
+    // entry, record number and all, out of sight.
+    void showPickEntries(const QStringList& entries);
+    void showCurrentNameEntries(const QStringList& entries);
     // The widgets that take the screen's panel colour.
     QList<QWidget*> colouredPanels() const;
 

@@ -1,20 +1,15 @@
 #include "recipetools/screens/renamepanel.h"
 
 #include "recipetools/logic/recipelifecycle.h"
-#include "shell/kit/overlaypanel.h"
 
 #include <QFormLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QVBoxLayout>
 
-RenamePanel::RenamePanel(QWidget* parent) : QFrame(parent)
+RenamePanel::RenamePanel(QWidget* parent)
+    : OverlayPanel(QStringLiteral("Recipe Name Change"), QStringLiteral("Recipe Name Change"), parent)
 {
-    setObjectName(QStringLiteral("Recipe Name Change"));
-
-    auto* title = MakeOverlayPanel(this, QStringLiteral("Recipe Name Change"));
     current_ = new QLabel(this);
     current_->setObjectName(QStringLiteral("Label27"));
     current_->setMinimumWidth(320);
@@ -27,34 +22,20 @@ RenamePanel::RenamePanel(QWidget* parent) : QFrame(parent)
             newName_->end(false);
         }
     });
-    auto* save = new QPushButton(QStringLiteral("Save Changed Recipe Name"), this);
-    save->setObjectName(QStringLiteral("Command11"));
-    auto* cancel = new QPushButton(QStringLiteral("Cancel"), this);
-    cancel->setObjectName(QStringLiteral("Command12"));
+    form()->addRow(QStringLiteral("Current Recipe Name:"), current_);
+    form()->addRow(QStringLiteral("Change Recipe Name To:"), newName_);
+    QPushButton* save = addButton(QStringLiteral("Command11"), QStringLiteral("Save Changed Recipe Name"));
+    QPushButton* cancel = addButton(QStringLiteral("Command12"), QStringLiteral("Cancel"));
     connect(save, &QPushButton::clicked, this, [this] { emit saveRequested(newName_->text()); });
-    connect(cancel, &QPushButton::clicked, this, &RenamePanel::cancelRequested);
+    connect(cancel, &QPushButton::clicked, this, &RenamePanel::closeRequested);
     connect(newName_, &QLineEdit::returnPressed, save, &QPushButton::click);
-
-    auto* form = new QFormLayout;
-    form->addRow(QStringLiteral("Current Recipe Name:"), current_);
-    form->addRow(QStringLiteral("Change Recipe Name To:"), newName_);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(save);
-    buttons->addWidget(cancel);
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(title);
-    layout->addLayout(form);
-    layout->addLayout(buttons);
-    hide();
 }
 
 void RenamePanel::open(const QString& currentName)
 {
     current_->setText(currentName.left(kRecipeNameLength));
     newName_->clear();
-    RaiseOverlayPanel(this);
-    newName_->setFocus(Qt::OtherFocusReason);
+    OverlayPanel::open(newName_);
 }
 
 QString RenamePanel::currentName() const

@@ -1,12 +1,11 @@
 #pragma once
 // The panel "Recipe Name Change": the current name and a box for the new one.
-#include <QFrame>
+#include "shell/kit/overlaypanel.h"
 
 class QLabel;
 class QLineEdit;
-class QPushButton;
 
-class RenamePanel final : public QFrame {
+class RenamePanel final : public OverlayPanel {
     Q_OBJECT
 public:
     explicit RenamePanel(QWidget* parent);
@@ -17,7 +16,6 @@ public:
 
 signals:
     void saveRequested(const QString& newName);
-    void cancelRequested();
 
 private:
     QLabel* current_ = nullptr;

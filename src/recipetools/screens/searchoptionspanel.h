@@ -1,16 +1,18 @@
 #pragma once
 // The panel "Search Options": which search to open, or back to the recipe.
-#include <QFrame>
+#include "shell/kit/overlaypanel.h"
 
-class SearchOptionsPanel final : public QFrame {
+class SearchOptionsPanel final : public OverlayPanel {
     Q_OBJECT
 public:
     explicit SearchOptionsPanel(QWidget* parent);
 
-    void open();
+    QPushButton* byRecipeButton() const { return byRecipe_; }
 
 signals:
     void byRecipeRequested();
     void byIngredientRequested();
-    void cancelRequested();
+
+private:
+    QPushButton* byRecipe_ = nullptr;
 };

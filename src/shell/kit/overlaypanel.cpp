@@ -72,20 +72,3 @@ void OverlayPanel::keyPressEvent(QKeyEvent* event)
     QFrame::keyPressEvent(event);
 }
 
-QLabel* MakeOverlayPanel(QFrame* panel, const QString& title)
-{
-    MakeRaised(panel, 3);
-    auto* label = new QLabel(title, panel);
-    QFont bold = label->font();
-    bold.setBold(true);
-    bold.setPointSize(bold.pointSize() + 2);
-    label->setFont(bold);
-    return label;
-}
-
-void RaiseOverlayPanel(QFrame* panel)
-{
-    panel->adjustSize();
-    panel->show();
-    panel->raise();
-}

@@ -48,6 +48,3 @@ private:
     QHBoxLayout* buttons_ = nullptr;
 };
 
-// Being replaced by OverlayPanel.
-QLabel* MakeOverlayPanel(QFrame* panel, const QString& title);
-void RaiseOverlayPanel(QFrame* panel);
