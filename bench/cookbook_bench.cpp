@@ -2,12 +2,13 @@
 // and a name file of 30,000 entries. The free-slot scan is set against a
 // plain sequential read of the same file, which is the floor it can reach.
 #include "cookbook/logic/cookbookfiles.h"
-#include "cookbook/logic/nameentry.h"
+
+#include "layout_bytes.h"
+#include "recipe_samples.h"
+#include "scratch_folder.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 #include "bench_main.h"
 
 #include <benchmark/benchmark.h>
@@ -31,39 +32,17 @@ public:
 private:
     CookbookData()
     {
-        QDir::setCurrent(dir_.path());
+        folder_.writeBytes(RecipeFileName(kCookbook), samples::FullRecipe().savedBytes().repeated(kRecipes));
 
-        RecipeRecord record = RecipeRecord::Cleared();
-        record.directions.setText(QString(900, u'x'));
-        for (int row = 0; row < RecipeRecord::kRows; ++row) {
-            record.amounts[row].setText(u"1.5");
-            record.amountTypes[row].setText(u"cups");
-            record.ingredients[row].setText(u"flour, sifted");
-        }
-        record.markUsed();
-        const QByteArray bytes = record.toBytes();
-        QByteArray all;
-        all.reserve(qsizetype(bytes.size()) * kRecipes);
-        for (int i = 0; i < kRecipes; ++i)
-            all.append(bytes);
-        QFile recipes(RecipeFileName(kCookbook));
-        if (recipes.open(QIODevice::WriteOnly | QIODevice::Truncate))
-            recipes.write(all);
-
-        QByteArray names;
+        QList<QByteArray> names;
         for (int i = 1; i <= kRecipes; ++i) {
-            const QString entry = MakeNameEntry(QStringLiteral("Recipe number %1").arg(i), RecordNumber(i));
-            entries_.append(entry);
-            RecipeNameRecord slot;
-            slot.setNameEntry(entry);
-            names.append(slot.toBytes());
+            names.append(layout::Entry("Recipe number " + QByteArray::number(i), i));
+            entries_.append(QString::fromLatin1(names.last()));
         }
-        QFile nameFile(NameFileName(kCookbook, kType));
-        if (nameFile.open(QIODevice::WriteOnly | QIODevice::Truncate))
-            nameFile.write(names);
+        folder_.writeBytes(NameFileName(kCookbook, kType), layout::NameFile(names));
     }
 
-    QTemporaryDir dir_;
+    ScratchFolder folder_;
     QStringList entries_;
 };
 

@@ -4,14 +4,15 @@
 // for a free slot reads the whole recipe file before the name file of 2,000
 // entries is rewritten.
 #include "cookbook/logic/cookbookfiles.h"
-#include "cookbook/logic/nameentry.h"
 #include "recipetools/logic/amountformat.h"
 #include "recipetools/logic/recipelifecycle.h"
 
+#include "layout_bytes.h"
+#include "recipe_samples.h"
+#include "scratch_folder.h"
+
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 #include "bench_main.h"
 
 #include <benchmark/benchmark.h>
@@ -25,31 +26,14 @@ constexpr int kEntries = 2000;
 // The one free slot of the recipe file, near its end.
 constexpr int kHole = 29990;
 
-RecipeFields SampleFields()
-{
-    RecipeFields fields;
-    for (int row = 0; row < kRecipeRows; ++row) {
-        fields.amounts[row] = QStringLiteral("1.5");
-        fields.units[row] = QStringLiteral("cups");
-        fields.ingredients[row] = QStringLiteral("flour, sifted");
-    }
-    fields.directions = QString(900, u'x');
-    fields.ovenTemperature = QStringLiteral("350");
-    fields.cookingTime = QStringLiteral("45 minutes");
-    fields.yieldAmount = QStringLiteral("12");
-    fields.yieldType = QStringLiteral("Serving(s)");
-    return fields;
-}
-
 // Names in no particular order, so that sorting has work to do.
-QString ScrambledName(int i)
+QByteArray ScrambledName(int i)
 {
     static const char* const kWords[] = {"apple", "Berry", "caramel", "Date", "lemon", "Maple", "nut", "Oat",
                                          "peach", "Plum", "rhubarb", "Spice", "toffee", "Vanilla", "walnut"};
     const unsigned mixed = unsigned(i) * 2654435761u;
-    return QStringLiteral("%1 %2 %3 bars")
-        .arg(QLatin1String(kWords[mixed % 15]), QLatin1String(kWords[(mixed >> 8) % 15]))
-        .arg(i);
+    return QByteArray(kWords[mixed % 15]) + ' ' + kWords[(mixed >> 8) % 15] + ' ' + QByteArray::number(i)
+        + " bars";
 }
 
 class RecipeData {
@@ -61,46 +45,37 @@ public:
     }
 
     const QStringList& sortedEntries() const { return sortedEntries_; }
-    const RecipeFields& fields() const { return fields_; }
+    const RecipeFields& fields() const { return full_.fields; }
 
     // Puts back the hole and the name file of 2,000 entries that a save changed.
     void restore()
     {
-        WriteRecipe(kCookbook, kHole, RecipeRecord::Cleared(), {});
-        QFile nameFile(NameFileName(kCookbook, kType));
-        if (nameFile.open(QIODevice::WriteOnly | QIODevice::Truncate))
-            nameFile.write(nameBytes_);
+        ClearRecipe(kCookbook, kHole);
+        folder_.writeBytes(NameFileName(kCookbook, kType), nameBytes_);
     }
 
     // Every slot used: the scan runs through all 30,000 and the save lands on 30001.
-    void fillHole() { WriteRecipe(kCookbook, kHole, BuildRecipeRecord(fields_), {}); }
+    void fillHole() { WriteRecipe(kCookbook, kHole, BuildRecipeRecord(full_.fields), {}); }
 
 private:
-    RecipeData() : fields_(SampleFields())
+    RecipeData() : full_(samples::FullRecipe())
     {
-        QDir::setCurrent(dir_.path());
-        const QByteArray used = BuildRecipeRecord(fields_).toBytes();
-        QByteArray all;
-        all.reserve(qsizetype(used.size()) * kRecords);
-        for (int i = 1; i <= kRecords; ++i)
-            all.append(i == kHole ? RecipeRecord::Cleared().toBytes() : used);
-        QFile recipes(RecipeFileName(kCookbook));
-        if (recipes.open(QIODevice::WriteOnly | QIODevice::Truncate))
-            recipes.write(all);
+        QByteArray all = full_.savedBytes().repeated(kRecords);
+        all.replace(qsizetype(kHole - 1) * RecipeRecord::kSize, RecipeRecord::kSize, samples::ClearedSlot());
+        folder_.writeBytes(RecipeFileName(kCookbook), all);
 
+        QList<QByteArray> entries;
         for (int i = 1; i <= kEntries; ++i) {
-            const QString entry = MakeNameEntry(ScrambledName(i), RecordNumber(i * 7));
-            RecipeNameRecord slot;
-            slot.setNameEntry(entry);
-            nameBytes_.append(slot.toBytes());
-            sortedEntries_.append(entry);
+            entries.append(layout::Entry(ScrambledName(i), i * 7));
+            sortedEntries_.append(QString::fromLatin1(entries.last()));
         }
+        nameBytes_ = layout::NameFile(entries);
         SortEntries(sortedEntries_);
         restore();
     }
 
-    QTemporaryDir dir_;
-    RecipeFields fields_;
+    ScratchFolder folder_;
+    samples::Sample full_;
     QByteArray nameBytes_;
     QStringList sortedEntries_;
 };

@@ -4,12 +4,14 @@
 // order, the recipe of every entry. A plain read of the 61 MB recipe file
 // is measured alongside for scale.
 #include "cookbook/logic/cookbookfiles.h"
-#include "cookbook/logic/nameentry.h"
 #include "recipetools/logic/recipesearch.h"
 
-#include <QDir>
+#include "cookbook_files.h"
+#include "recipe_samples.h"
+#include "scratch_folder.h"
+#include "search_terms.h"
+
 #include <QFile>
-#include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 
 #include <functional>
@@ -51,58 +53,33 @@ public:
 private:
     SearchData()
     {
-        QDir::setCurrent(dir_.path());
         std::mt19937 random(kRandomStart);
         auto below = [&](int n) { return std::uniform_int_distribution<int>(0, n - 1)(random); };
 
-        QByteArray recipes;
-        recipes.reserve(qsizetype(kRecipes) * RecipeRecord::kSize);
-        std::array<QByteArray, kRecipeTypeCount> names;
+        layout::CookbookFiles book;
+        std::array<QList<QByteArray>, kRecipeTypeCount> names;
+        layout::Recipe recipe = samples::FullRecipe().slot;
+        recipe.slotMark = "Full1";
         for (int slot = 1; slot <= kRecipes; ++slot) {
-            RecipeRecord record = RecipeRecord::Cleared();
-            for (int row = 0; row < kRecipeRows; ++row) {
-                record.amounts[row].setText(u"1.5");
-                record.amountTypes[row].setText(u"cups");
-                record.ingredients[row].setText(
-                    QString::fromLatin1(kIngredients[below(int(std::size(kIngredients)))]));
-            }
-            record.directions.setText(QString(900, u'x'));
-            record.markUsed();
-            recipes += record.toBytes();
+            for (QByteArray& ingredient : recipe.ingredients)
+                ingredient = kIngredients[below(int(std::size(kIngredients)))];
+            book.record(slot, recipe);
 
             const QString name = QStringLiteral("%1 %2 %3")
                                      .arg(QLatin1String(kNameWords[below(int(std::size(kNameWords)))]),
                                           QLatin1String(kNameWords[below(int(std::size(kNameWords)))]),
                                           QLatin1String(kNameKinds[below(int(std::size(kNameKinds)))]));
-            RecipeNameRecord entry = RecipeNameRecord::Cleared();
-            entry.setNameEntry(MakeNameEntry(name, RecordNumber(slot)));
-            names[std::size_t(below(kRecipeTypeCount))] += entry.toBytes();
+            names[std::size_t(below(kRecipeTypeCount))] += layout::Entry(name, slot);
         }
-        write(RecipeFileName(kCookbook), recipes);
-        write(ExtraFileName(kCookbook), QByteArray(qsizetype(kRecipes) * RecipeExtraRecord::kSize, '\0'));
         for (RecipeType type : AllRecipeTypes())
-            write(NameFileName(kCookbook, type), names[std::size_t(int(type) - 1)]);
+            book.names(type, names[std::size_t(int(type) - 1)]);
+        book.write(folder_.path(), kCookbook);
+        folder_.writeBytes(ExtraFileName(kCookbook),
+                           QByteArray(qsizetype(kRecipes) * RecipeExtraRecord::kSize, '\0'));
     }
 
-    static void write(const QString& name, const QByteArray& bytes)
-    {
-        QFile file(name);
-        if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-            file.write(bytes);
-    }
-
-    QTemporaryDir dir_;
+    ScratchFolder folder_;
 };
-
-IngredientQuery Query(const QString& box1, const QString& box2 = {}, const QString& box3 = {}, bool allOf = true)
-{
-    IngredientQuery query;
-    query.box1 = box1;
-    query.box2 = box2;
-    query.box3 = box3;
-    query.allOfTerms = allOf;
-    return query;
-}
 
 void Run(benchmark::State& state, const std::function<qsizetype()>& search)
 {
@@ -137,13 +114,15 @@ void BM_NameSearchWord(benchmark::State& state)
 void BM_IngredientSearchOneTerm(benchmark::State& state)
 {
     const std::array<QString, kRecipeRows> buffer{};
-    Run(state, [&] { return SearchByIngredient(kCookbook, Query(QStringLiteral("egg")), buffer).size(); });
+    const IngredientQuery query = samples::Terms(QStringLiteral("egg"));
+    Run(state, [&] { return SearchByIngredient(kCookbook, query, buffer).size(); });
 }
 
 void BM_IngredientSearchAllOfThree(benchmark::State& state)
 {
     const std::array<QString, kRecipeRows> buffer{};
-    const IngredientQuery query = Query(QStringLiteral("flour"), QStringLiteral("sugar"), QStringLiteral(" egg"), true);
+    const IngredientQuery query =
+        samples::Terms(QStringLiteral("flour"), QStringLiteral("sugar"), QStringLiteral(" egg"), true);
     Run(state, [&] { return SearchByIngredient(kCookbook, query, buffer).size(); });
 }
 
@@ -151,14 +130,14 @@ void BM_IngredientSearchAnyOfThree(benchmark::State& state)
 {
     const std::array<QString, kRecipeRows> buffer{};
     const IngredientQuery query =
-        Query(QStringLiteral("saffron"), QStringLiteral("quinoa"), QStringLiteral("tofu"), false);
+        samples::Terms(QStringLiteral("saffron"), QStringLiteral("quinoa"), QStringLiteral("tofu"), false);
     Run(state, [&] { return SearchByIngredient(kCookbook, query, buffer).size(); });
 }
 
 void BM_IngredientSearchOneType(benchmark::State& state)
 {
     const std::array<QString, kRecipeRows> buffer{};
-    IngredientQuery query = Query(QStringLiteral("egg"));
+    IngredientQuery query = samples::Terms(QStringLiteral("egg"));
     query.onlyType = RecipeType::Desserts;
     Run(state, [&] { return SearchByIngredient(kCookbook, query, buffer).size(); });
 }

@@ -7,6 +7,7 @@
 #include "shell/settings/settingsslots.h"
 #include "shell/screens/screenmetrics.h"
 #include "shell/screens/startfrm.h"
+#include "cookbook_files.h"
 #include "recipe_samples.h"
 #include "scripted_dialogs.h"
 #include "temp_program_folder.h"
@@ -33,7 +34,7 @@
 
 using layout::Entry;
 using layout::ExtraSlot;
-using samples::NameFile;
+using layout::NameFile;
 
 namespace {
 
@@ -362,7 +363,7 @@ TEST_F(Form5Test, ARecordNumberFromAnotherCallerLoadsWithoutTheQuestion)
     saveQuickRecipe(*form, "Stews", "Lamb Stew");
     startRecipe(*form, "Stews", "Unsaved");
     typeRow(*form, 0, "1", "cup", "water");
-    form->showRecipeAt(2, samples::EntryText("Lamb Stew", 2));
+    form->showRecipeAt(2, layout::EntryText("Lamb Stew", 2));
     EXPECT_TRUE(dialogs.messages().isEmpty());
     EXPECT_EQ(form->currentRecordNumber(), 2);
     EXPECT_EQ(fields(*form)->pickList()->currentText(), "Lamb Stew");

@@ -10,6 +10,7 @@
 #include "cookbook/logic/nameentry.h"
 #include "recipetools/logic/amountformat.h"
 
+#include "cookbook_files.h"
 #include "recipe_samples.h"
 #include "temp_program_folder.h"
 
@@ -19,10 +20,10 @@
 namespace {
 
 using layout::Entry;
+using layout::EntryText;
 using layout::ExtraSlot;
+using layout::NameFile;
 using samples::ClearedSlot;
-using samples::EntryText;
-using samples::NameFile;
 
 constexpr RecipeType kType = RecipeType::Desserts;
 

@@ -7,6 +7,7 @@
 #include "cookbook/logic/nameentry.h"
 #include "recipetools/logic/amountformat.h"
 
+#include "cookbook_files.h"
 #include "recipe_samples.h"
 #include "temp_program_folder.h"
 
@@ -17,10 +18,10 @@
 namespace {
 
 using layout::Entry;
+using layout::EntryText;
 using layout::ExtraSlot;
+using layout::NameFile;
 using samples::ClearedSlot;
-using samples::EntryText;
-using samples::NameFile;
 
 constexpr RecipeType kType = RecipeType::Desserts;
 const char* const kNameFile = "Dessnfil.db1";
@@ -36,6 +37,12 @@ TEST(BuildRecipeRecord, BytesFollowTheLayout)
 {
     const samples::Sample lemon = samples::LemonBars();
     EXPECT_EQ(BuildRecipeRecord(lemon.fields).toBytes(), lemon.savedBytes());
+}
+
+TEST(BuildRecipeRecord, EveryRowOfAFullRecipeFollowsTheLayout)
+{
+    const samples::Sample full = samples::FullRecipe();
+    EXPECT_EQ(BuildRecipeRecord(full.fields).toBytes(), full.savedBytes());
 }
 
 TEST(BuildRecipeRecord, EmptyFieldsGiveABlankUsedRecord)
@@ -90,7 +97,7 @@ TEST(BuildRecipeRecord, AccentedLettersAreOneByteEach)
 TEST(FieldsOfRecord, RoundTripsTheScreensFields)
 {
     for (const samples::Sample& sample :
-         {samples::LemonBars(), samples::AppleCrisp(), samples::Brownies(), samples::Fudge()}) {
+         {samples::LemonBars(), samples::AppleCrisp(), samples::Brownies(), samples::Fudge(), samples::FullRecipe()}) {
         EXPECT_EQ(FieldsOfRecord(BuildRecipeRecord(sample.fields)), sample.fields);
     }
 }

@@ -7,8 +7,9 @@
 #include "cookbook/logic/nameentry.h"
 #include "recipetools/logic/recipelifecycle.h"
 
-#include "search_cookbook.h"
+#include "cookbook_files.h"
 #include "search_reference.h"
+#include "search_terms.h"
 #include "temp_program_folder.h"
 
 #include <QFile>
@@ -24,9 +25,10 @@ namespace {
 // run sees the same ones.
 constexpr unsigned kRandomStart = 20240611;
 
-using searchbook::Cookbook;
-using searchbook::Entry;
-using searchbook::EntryText;
+using layout::CookbookFiles;
+using layout::Entry;
+using layout::EntryText;
+using samples::Terms;
 
 constexpr int kBook = 1;
 const QString kDesserts = QStringLiteral("Desserts");
@@ -36,16 +38,6 @@ const QString kAppetizers = QStringLiteral("Appetizers and beverages");
 std::array<QString, kRecipeRows> NoBuffer()
 {
     return {};
-}
-
-IngredientQuery Terms(const QString& box1, const QString& box2 = {}, const QString& box3 = {}, bool allOf = true)
-{
-    IngredientQuery query;
-    query.box1 = box1;
-    query.box2 = box2;
-    query.box3 = box3;
-    query.allOfTerms = allOf;
-    return query;
 }
 
 QList<SearchHit> ByIngredient(const IngredientQuery& query)
@@ -67,10 +59,10 @@ QList<QString> RowsWithAt(int row, const QString& text)
 TEST(RecipeSearchEdgeCases, EggFindsEggplantVeggieAndEggsInNames)
 {
     TempProgramFolder folder;
-    Cookbook book;
+    CookbookFiles book;
     book.names(RecipeType::Desserts, {Entry(u"Veggie Lasagna", 2), Entry(u"Apple Pie", 4),
                                       Entry(u"Eggplant Parmesan", 1), Entry(u"Deviled eggs", 3)});
-    book.write(folder);
+    ASSERT_TRUE(book.write(folder.path()));
 
     const QList<SearchHit> expected = {
         {kDesserts, EntryText(u"Deviled eggs", 3)},
@@ -84,14 +76,14 @@ TEST(RecipeSearchEdgeCases, EggFindsEggplantVeggieAndEggsInNames)
 TEST(RecipeSearchEdgeCases, BlankEggInAnIngredientSearchFindsEggsAtAWordStartButNotVeggie)
 {
     TempProgramFolder folder;
-    Cookbook book;
+    CookbookFiles book;
     book.recipe(1, {"flour", "2 eggs, beaten"});
     book.recipe(2, {"Veggie broth"});
     book.recipe(3, {"eggplant, diced"});
     book.recipe(4, {"nutmeg"});
     book.names(RecipeType::Desserts, {Entry(u"Custard", 1), Entry(u"Soup", 2), Entry(u"Moussaka", 3),
                                       Entry(u"Nog", 4)});
-    book.write(folder);
+    ASSERT_TRUE(book.write(folder.path()));
 
     EXPECT_EQ(ByIngredient(Terms(" egg")), (QList<SearchHit>{{kDesserts, EntryText(u"Custard", 1)},
                                                               {kDesserts, EntryText(u"Moussaka", 3)}}));
@@ -112,14 +104,14 @@ TEST(RecipeSearchEdgeCases, NameSearchOverTwentyTwoEmptyTypesFindsNothing)
 TEST(RecipeSearchEdgeCases, AllOfTwoTermsAcceptsARecipeOnlyWhenEachTermIsInSomeRowEvenTheSameRow)
 {
     TempProgramFolder folder;
-    Cookbook book;
+    CookbookFiles book;
     book.recipe(1, {"flour", "", "", "", "sugar"});   // two rows
     book.recipe(2, {"sugar and flour blend"});         // one row holds both
     book.recipe(3, {"flour"});
     book.recipe(4, {"sugar"});
     book.names(RecipeType::Breads, {Entry(u"A two rows", 1), Entry(u"B one row", 2), Entry(u"C flour only", 3),
                                     Entry(u"D sugar only", 4)});
-    book.write(folder);
+    ASSERT_TRUE(book.write(folder.path()));
 
     const QList<SearchHit> expected = {{kBreads, EntryText(u"A two rows", 1)}, {kBreads, EntryText(u"B one row", 2)}};
     EXPECT_EQ(ByIngredient(Terms("flour", "sugar", {}, true)), expected);
@@ -129,14 +121,14 @@ TEST(RecipeSearchEdgeCases, AllOfTwoTermsAcceptsARecipeOnlyWhenEachTermIsInSomeR
 TEST(RecipeSearchEdgeCases, AnyOfListsARecipeOnceNeverOncePerTerm)
 {
     TempProgramFolder folder;
-    Cookbook book;
+    CookbookFiles book;
     book.recipe(1, {"milk", "honey", "oats"});
     book.recipe(2, {"honey"});
     book.recipe(3, {"oats"});
     book.recipe(4, {"salt"});
     book.names(RecipeType::Breads, {Entry(u"All three", 1), Entry(u"Second only", 2), Entry(u"Third only", 3),
                                     Entry(u"None", 4)});
-    book.write(folder);
+    ASSERT_TRUE(book.write(folder.path()));
 
     EXPECT_EQ(ByIngredient(Terms("milk", "honey", "oats", false)),
               (QList<SearchHit>{{kBreads, EntryText(u"All three", 1)},
@@ -147,13 +139,13 @@ TEST(RecipeSearchEdgeCases, AnyOfListsARecipeOnceNeverOncePerTerm)
 TEST(RecipeSearchEdgeCases, RowTwentyIsScanned)
 {
     TempProgramFolder folder;
-    Cookbook book;
+    CookbookFiles book;
     book.recipe(1, RowsWithAt(20, "fresh thyme"));
     // Row 20 filled to its 35th character.
     book.recipe(2, RowsWithAt(20, QString(30, u'x') + "thyme"));
     book.recipe(3, RowsWithAt(19, "oregano"));
     book.names(RecipeType::Stews, {Entry(u"Full rows", 1), Entry(u"Full width", 2), Entry(u"Oregano", 3)});
-    book.write(folder);
+    ASSERT_TRUE(book.write(folder.path()));
 
     const QString stews = QStringLiteral("Stews");
     EXPECT_EQ(ByIngredient(Terms("thyme")),
@@ -173,11 +165,11 @@ TEST(RecipeSearchEdgeCases, OnlyBoxThreeFilledMovesToBoxOneAndSearchesAsASingleT
     EXPECT_EQ(MatchMode(MultiIngredientFrameShown(box2, box3), true), 0);
 
     TempProgramFolder folder;
-    Cookbook book;
+    CookbookFiles book;
     book.recipe(1, {"milk"});
     book.recipe(2, {"cream"});
     book.names(RecipeType::Desserts, {Entry(u"Pudding", 1), Entry(u"Mousse", 2)});
-    book.write(folder);
+    ASSERT_TRUE(book.write(folder.path()));
     EXPECT_EQ(ByIngredient(Terms(box1, box2, box3)), (QList<SearchHit>{{kDesserts, EntryText(u"Pudding", 1)}}));
 }
 
@@ -186,12 +178,12 @@ TEST(RecipeSearchEdgeCases, OnlyBoxThreeFilledMovesToBoxOneAndSearchesAsASingleT
 TEST(NameSearch, RowsAreTypeAndLeftTrimmedEntryTypeByTypeInSortedOrder)
 {
     TempProgramFolder folder;
-    Cookbook book;
+    CookbookFiles book;
     // Type list order: Appetizers (1) before Breads (3), whatever the files.
     book.names(RecipeType::Breads, {Entry(u"rye bread", 7), " ", "", Entry(u"Banana bread", 2),
                                     Entry(u"   Corn bread", 9), "   ", Entry(u"apple bread", 5)});
     book.names(RecipeType::AppetizersAndBeverages, {Entry(u"Bread sticks", 11)});
-    book.write(folder);
+    ASSERT_TRUE(book.write(folder.path()));
 
     EXPECT_EQ(SearchByName(kBook, "bread"),
               (QList<SearchHit>{
@@ -207,10 +199,10 @@ TEST(NameSearch, RowsAreTypeAndLeftTrimmedEntryTypeByTypeInSortedOrder)
 TEST(NameSearch, ViewAllListsEveryEntryAndSkipsClearedAndEmptySlots)
 {
     TempProgramFolder folder;
-    Cookbook book;
+    CookbookFiles book;
     book.names(RecipeType::Cookies, {" ", Entry(u"Snickerdoodles", 4), "", " ", Entry(u"Biscotti", 12), " "});
     book.names(RecipeType::Vegetables, {Entry(u"Glazed carrots", 1)});
-    book.write(folder);
+    ASSERT_TRUE(book.write(folder.path()));
 
     const QString cookies = QStringLiteral("Cookies");
     EXPECT_EQ(SearchByName(kBook, kViewAllText),
@@ -222,10 +214,10 @@ TEST(NameSearch, ViewAllListsEveryEntryAndSkipsClearedAndEmptySlots)
 TEST(NameSearch, ABlankBeforeTheWordAnchorsItAtTheStartOfAnyWord)
 {
     TempProgramFolder folder;
-    Cookbook book;
+    CookbookFiles book;
     book.names(RecipeType::PastryAndPies,
                {Entry(u"Sweetpie bars", 1), Entry(u"Pie crust", 2), Entry(u"Apple pie", 3), Entry(u"Piecrust", 4)});
-    book.write(folder);
+    ASSERT_TRUE(book.write(folder.path()));
 
     const QString pies = QStringLiteral("Pastry and Pies");
     EXPECT_EQ(SearchByName(kBook, " pie"),
@@ -239,10 +231,10 @@ TEST(NameSearch, ABlankBeforeTheWordAnchorsItAtTheStartOfAnyWord)
 TEST(NameSearch, TheWholeEntryIsSearchedPadBlanksAndRecordNumberIncluded)
 {
     TempProgramFolder folder;
-    Cookbook book;
+    CookbookFiles book;
     book.names(RecipeType::SoupsAndSauces, {Entry(u"Tomato soup", 17), Entry(u"Route 66 chili", 3),
                                    Entry(QString(52, u'x'), 5)});
-    book.write(folder);
+    ASSERT_TRUE(book.write(folder.path()));
 
     const QString soups = QStringLiteral("Soups and sauces");
     EXPECT_EQ(SearchByName(kBook, "17"), (QList<SearchHit>{{soups, EntryText(u"Tomato soup", 17)}}));
@@ -254,10 +246,10 @@ TEST(NameSearch, TheWholeEntryIsSearchedPadBlanksAndRecordNumberIncluded)
 TEST(NameSearch, CaseIsIgnoredForAccentedLettersOfTheCodePage)
 {
     TempProgramFolder folder;
-    Cookbook book;
+    CookbookFiles book;
     book.names(RecipeType::Desserts, {Entry(u"CRÈME BRÛLÉE", 1), Entry(u"Crepes", 2), Entry(u"Œufs à la neige", 3),
                                       Entry(u"Ÿvonne's tart", 4), Entry(u"Straße cake", 5)});
-    book.write(folder);
+    ASSERT_TRUE(book.write(folder.path()));
 
     EXPECT_EQ(SearchByName(kBook, u"crème"_s), (QList<SearchHit>{{kDesserts, EntryText(u"CRÈME BRÛLÉE", 1)}}));
     EXPECT_EQ(SearchByName(kBook, u"œufs À"_s), (QList<SearchHit>{{kDesserts, EntryText(u"Œufs à la neige", 3)}}));
@@ -270,19 +262,19 @@ TEST(NameSearch, CaseIsIgnoredForAccentedLettersOfTheCodePage)
 TEST(NameSearch, TheEmptyTextFindsNothing)
 {
     TempProgramFolder folder;
-    Cookbook book;
+    CookbookFiles book;
     book.names(RecipeType::Desserts, {Entry(u"Fudge", 1)});
-    book.write(folder);
+    ASSERT_TRUE(book.write(folder.path()));
     EXPECT_TRUE(SearchByName(kBook, {}).isEmpty());
 }
 
 TEST(NameSearch, SortingIsCaseBlindAndKeepsSlotOrderAmongEquals)
 {
     TempProgramFolder folder;
-    Cookbook book;
+    CookbookFiles book;
     book.names(RecipeType::Desserts, {Entry(u"cherry cobbler", 3), Entry(u"APPLE CRISP", 8), Entry(u"banana split", 1),
                                       Entry(u"apple crisp", 8), Entry(u"Apple Crisp", 8)});
-    book.write(folder);
+    ASSERT_TRUE(book.write(folder.path()));
 
     EXPECT_EQ(SearchByName(kBook, kViewAllText),
               (QList<SearchHit>{{kDesserts, EntryText(u"APPLE CRISP", 8)},
@@ -311,10 +303,10 @@ TEST(NameSearch, ManyEntriesEqualButForCaseKeepTheirSlotOrder)
         slotTexts.insert(i * 2, Entry(QStringLiteral("banana %1").arg(i, 2, 10, QLatin1Char('0')), 100 + i));
         expected << SearchHit{kDesserts, EntryText(QStringLiteral("banana %1").arg(i, 2, 10, QLatin1Char('0')), 100 + i)};
     }
-    Cookbook book;
+    CookbookFiles book;
     book.names(RecipeType::Desserts, slotTexts);
     book.recipe(5, {"apples"});
-    book.write(folder);
+    ASSERT_TRUE(book.write(folder.path()));
 
     EXPECT_EQ(SearchByName(kBook, kViewAllText), expected);
     EXPECT_EQ(ByIngredient(Terms("apples")), expected.first(64));
@@ -344,10 +336,10 @@ protected:
                    {Entry(u"Shortbread", 2), Entry(u"Brownies", 5), Entry(u"Custard pie", 1)});
         book.names(RecipeType::AppetizersAndBeverages, {Entry(u"Veggie dip", 4), Entry(u"Baba ganoush", 3)});
     }
-    void write() { book.write(folder); }
+    void write() { ASSERT_TRUE(book.write(folder.path())); }
 
     TempProgramFolder folder;
-    Cookbook book;
+    CookbookFiles book;
 };
 
 TEST_F(IngredientSearch, SingleTermRowsAreTypeAndEntryAsReadTypeByTypeInSortedOrder)
@@ -723,7 +715,7 @@ public:
         return word;
     }
 
-    void cookbook(Cookbook& book, int slotCount)
+    void cookbook(CookbookFiles& book, int slotCount)
     {
         for (int slot = 1; slot <= slotCount; ++slot) {
             if (chance(8)) {
@@ -747,7 +739,7 @@ public:
         std::array<QList<QByteArray>, 8> files;
         for (int slot = 1; slot <= slotCount + 20; ++slot) {
             // A few entries point past the end of the recipe file.
-            files[std::size_t(below(8))] << searchbook::Entry(words(NameWords(), 3), slot);
+            files[std::size_t(below(8))] << layout::Entry(words(NameWords(), 3), slot);
         }
         for (int f = 0; f < 8; ++f) {
             QList<QByteArray>& file = files[std::size_t(f)];
@@ -756,11 +748,11 @@ public:
             for (int n = below(3); n > 0; --n)
                 file.insert(below(int(file.size()) + 1), "");
             if (chance(50))
-                file.insert(below(int(file.size()) + 1), searchbook::Entry(words(NameWords(), 2), 0));
+                file.insert(below(int(file.size()) + 1), layout::Entry(words(NameWords(), 2), 0));
             if (chance(50))
-                file.insert(below(int(file.size()) + 1), searchbook::Cp(words(NameWords(), 2)));
+                file.insert(below(int(file.size()) + 1), layout::Cp(words(NameWords(), 2)));
             if (chance(30))
-                file.insert(below(int(file.size()) + 1), searchbook::Entry(words(NameWords(), 2), 40000));
+                file.insert(below(int(file.size()) + 1), layout::Entry(words(NameWords(), 2), 40000));
             if (chance(30) && !file.isEmpty())
                 file.insert(below(int(file.size()) + 1), file[below(int(file.size()))]); // the same entry twice
         }
@@ -801,9 +793,9 @@ TEST(SearchAgainstReference, FastSearchesGiveTheRowsOfTheRecordByRecordWalk)
     int nonEmpty = 0;
     for (int round = 0; round < 3; ++round) {
         TempProgramFolder folder;
-        Cookbook book;
+        CookbookFiles book;
         generate.cookbook(book, 220);
-        book.write(folder);
+        ASSERT_TRUE(book.write(folder.path()));
 
         QStringList nameTerms = {kViewAllText, " egg", "egg", "EGG", "  ", "17", "0", u"ÿ"_s, u"Ÿ"_s, "zzz", "e",
                                  " e", u"crÈme"_s, "SS", u"ß"_s};

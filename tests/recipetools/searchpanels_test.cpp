@@ -8,7 +8,7 @@
 #include "cookbook/logic/cookbooknames.h"
 #include "shell/settings/settingsslots.h"
 
-#include "search_cookbook.h"
+#include "cookbook_files.h"
 #include "temp_program_folder.h"
 #include "raw_slots.h"
 
@@ -28,7 +28,7 @@
 
 namespace {
 
-using searchbook::EntryText;
+using layout::EntryText;
 
 const QList<SearchHit> kTwoHits = {
     {QStringLiteral("Desserts"), EntryText(u"Deviled eggs", 3)},

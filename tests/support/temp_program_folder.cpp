@@ -1,33 +1,21 @@
 #include "temp_program_folder.h"
 
-#include "common/programfolder.h"
-
-#include <QDir>
-#include <QFile>
+#include <QFileInfo>
 #include <gtest/gtest.h>
 
-TempProgramFolder::TempProgramFolder() : previous_(QDir::currentPath())
+TempProgramFolder::TempProgramFolder()
 {
-    EXPECT_TRUE(dir_.isValid());
-    SetProgramFolder(dir_.path());
-    EXPECT_TRUE(EnterProgramFolder());
-}
-
-TempProgramFolder::~TempProgramFolder()
-{
-    QDir::setCurrent(previous_);
-    SetProgramFolder({});
-}
-
-QByteArray TempProgramFolder::bytesOf(const QString& name) const
-{
-    QFile file(filePath(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    EXPECT_TRUE(isReady()) << path().toStdString();
 }
 
 void TempProgramFolder::writeBytes(const QString& name, const QByteArray& bytes) const
 {
-    QFile file(filePath(name));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    ASSERT_EQ(file.write(bytes), bytes.size());
+    ASSERT_TRUE(ScratchFolder::writeBytes(name, bytes)) << name.toStdString();
+}
+
+void TempProgramFolder::copyIn(const QString& sourcePath) const
+{
+    const QByteArray bytes = ReadFileBytes(sourcePath);
+    ASSERT_FALSE(bytes.isEmpty()) << "missing or empty: " << sourcePath.toStdString();
+    writeBytes(QFileInfo(sourcePath).fileName(), bytes);
 }

@@ -1,21 +1,17 @@
 #pragma once
 // Gives a test its own empty program folder and makes it current; the
-// previous current folder comes back when the test ends.
+// previous current folder comes back when the test ends. A folder that cannot
+// be made, or a file that cannot be written or copied in, fails the test.
+#include "scratch_folder.h"
+
 #include <QByteArray>
 #include <QString>
-#include <QTemporaryDir>
 
-class TempProgramFolder {
+class TempProgramFolder : public ScratchFolder {
 public:
     TempProgramFolder();
-    ~TempProgramFolder();
-    QString path() const { return dir_.path(); }
-    QString filePath(const QString& name) const { return dir_.filePath(name); }
 
-    QByteArray bytesOf(const QString& name) const;
     void writeBytes(const QString& name, const QByteArray& bytes) const;
-
-private:
-    QTemporaryDir dir_;
-    QString previous_;
+    // A copy of the file at `sourcePath`, under its own file name.
+    void copyIn(const QString& sourcePath) const;
 };

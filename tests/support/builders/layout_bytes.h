@@ -1,6 +1,7 @@
 #pragma once
-// Expected file bytes built by hand from the record layouts, independent of
-// the record structs under test.
+// File bytes built by hand from the record layouts, independent of the
+// record structs under test: the expected bytes of the tests, and the
+// cookbooks the tests and the benchmarks write.
 #include <QByteArray>
 #include <QList>
 
@@ -70,6 +71,15 @@ inline QByteArray NameSlot(const QByteArray& text)
 {
     const QByteArray value = U16(int(text.size())) + text;
     return value + Zeros(60 - int(value.size()));
+}
+
+// A name file of the given slot texts, slot 1 first; " " is a cleared slot.
+inline QByteArray NameFile(const QList<QByteArray>& texts)
+{
+    QByteArray out;
+    for (const QByteArray& text : texts)
+        out += NameSlot(text);
+    return out;
 }
 
 // A name entry by hand: name, blanks to 52, number.

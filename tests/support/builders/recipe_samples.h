@@ -1,12 +1,12 @@
 #pragma once
-// Recipes for the lifecycle tests, each twice: as the screen's fields and as
-// the bytes its slot must hold, the latter built from the layout tables.
+// Recipes for the lifecycle tests and the benchmarks, each twice: as the
+// screen's fields and as the bytes its slot must hold, the latter built from
+// the layout tables.
 #include "recipetools/logic/recipelifecycle.h"
 
-#include "../cookbook/layout_bytes.h"
+#include "layout_bytes.h"
 
 #include <QByteArray>
-#include <QList>
 #include <QString>
 
 namespace samples {
@@ -105,26 +105,23 @@ inline Sample Fudge()
     return s;
 }
 
+// Every row filled and the directions near their limit: the largest recipe
+// of the benchmarks' cookbooks.
+inline Sample FullRecipe()
+{
+    Sample s;
+    for (int row = 0; row < kRecipeRows; ++row)
+        s.setRow(row, "1.5", "cups", "flour, sifted");
+    s.setOthers(QByteArray(900, 'x'), "350", "45 minutes", "12", "Serving(s)");
+    return s;
+}
+
 // The slot ClearRecipe leaves: every field blank, marked deleted.
 inline QByteArray ClearedSlot()
 {
     layout::Recipe cleared;
     cleared.slotMark = "****";
     return layout::RecipeSlot(cleared);
-}
-
-// A name file of the given slot texts; " " is a cleared slot.
-inline QByteArray NameFile(const QList<QByteArray>& texts)
-{
-    QByteArray out;
-    for (const QByteArray& text : texts)
-        out += layout::NameSlot(text);
-    return out;
-}
-
-inline QString EntryText(const QByteArray& name, int number)
-{
-    return QString::fromLatin1(layout::Entry(name, number));
 }
 
 } // namespace samples
