@@ -10,6 +10,7 @@
 
 #include "temp_program_folder.h"
 #include "test_data.h"
+#include "raw_slots.h"
 
 #include <gtest/gtest.h>
 
