@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QToolBar>
 #include <QToolButton>
+#include <gtest/gtest.h>
 
 namespace {
 
@@ -51,4 +52,16 @@ CommandDoors DoorsOf(QMainWindow& window, const QString& command)
         doors.buttonCaption = button->text();
     doors.onToolbar = ToolButtonOf(window, action) != nullptr;
     return doors;
+}
+
+void ExpectDoors(QMainWindow& window, const QList<CommandDoors>& expected)
+{
+    for (const CommandDoors& want : expected) {
+        SCOPED_TRACE(want.command.toStdString());
+        ASSERT_NE(window.findChild<QAction*>(want.command), nullptr);
+        const CommandDoors found = DoorsOf(window, want.command);
+        EXPECT_EQ(found.menuCaption, want.menuCaption);
+        EXPECT_EQ(found.buttonCaption, want.buttonCaption);
+        EXPECT_EQ(found.onToolbar, want.onToolbar);
+    }
 }

@@ -233,6 +233,10 @@ void PrintOptionsPanel::printDocument()
 void PrintOptionsPanel::toggleLarge()
 {
     const bool large = !preview_->large();
+    // The keyboard stays on the panel: hidden with the side column, it
+    // would go on to the screen's fields.
+    if (large)
+        enlarge_->setFocus(Qt::OtherFocusReason);
     side_->setVisible(!large);
     preview_->setLarge(large);
     enlarge_->setText(large ? QStringLiteral("Normal") : QStringLiteral("Enlarge"));

@@ -59,7 +59,7 @@ void Form5::saveTitles(const QStringList& titles)
 
 void Form5::closeTitles()
 {
+    setPanel(RecipePanel::None);
     focusCommandButton(Form5Command::Create);
     titlesPanel_->hide();
-    setPanel(RecipePanel::None);
 }

@@ -1,7 +1,5 @@
 #include "shell/kit/commandtable.h"
 
-#include "shell/kit/commandbutton.h"
-
 #include <QAction>
 #include <QActionGroup>
 #include <QMainWindow>
@@ -19,6 +17,18 @@ namespace {
 bool SameName(const char* a, const char* b)
 {
     return a && b && std::strcmp(a, b) == 0;
+}
+
+// The screen button triggers the action and follows its enabled state, so a
+// command is enabled in one place.
+void BindButtonToAction(QPushButton* button, QAction* action)
+{
+    // Which command the button serves, for anyone who looks at the screen
+    // from outside (tests, accessibility readers).
+    button->setProperty("command", action->objectName());
+    QObject::connect(button, &QPushButton::clicked, action, &QAction::trigger);
+    QObject::connect(action, &QAction::changed, button, [button, action] { button->setEnabled(action->isEnabled()); });
+    button->setEnabled(action->isEnabled());
 }
 
 } // namespace
@@ -133,7 +143,13 @@ void CommandSet::refresh()
 {
     for (size_t i = 0; i < rows_.size(); ++i) {
         const CommandSpec& row = rows_[i];
-        actions_[i]->setEnabled(row.run && (!row.enabled || row.enabled()));
+        const bool enabled = row.run && (!row.enabled || row.enabled());
+        // A button that is turned off while it has the keyboard hands it to
+        // its panel: Qt would pass it on to the next field as if the user
+        // had tabbed there.
+        if (!enabled && buttons_[i] && buttons_[i]->hasFocus() && buttons_[i]->parentWidget())
+            buttons_[i]->parentWidget()->setFocus(Qt::OtherFocusReason);
+        actions_[i]->setEnabled(enabled);
     }
 }
 

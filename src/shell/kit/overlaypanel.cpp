@@ -2,6 +2,7 @@
 
 #include "shell/kit/raisedpanel.h"
 
+#include <QApplication>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -61,6 +62,13 @@ void OverlayPanel::centreInParent(double fromTop)
     if (!area)
         return;
     move((area->width() - width()) / 2, int((area->height() - height()) * fromTop));
+}
+
+void OverlayPanel::setVisible(bool visible)
+{
+    if (!visible && parentWidget() && isAncestorOf(QApplication::focusWidget()))
+        parentWidget()->setFocus(Qt::OtherFocusReason);
+    QFrame::setVisible(visible);
 }
 
 void OverlayPanel::keyPressEvent(QKeyEvent* event)

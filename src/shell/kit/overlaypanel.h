@@ -34,6 +34,11 @@ public:
     void centreInParent(double fromTop = 0.5);
     bool isOpen() const { return isVisible(); }
 
+    // Hiding the panel with the keyboard in it hands the keyboard to the
+    // screen under it first: Qt would pass it on to the next field as if
+    // the user had tabbed there.
+    void setVisible(bool visible) override;
+
 signals:
     // Escape was pressed inside the panel.
     void closeRequested();
