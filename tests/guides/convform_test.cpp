@@ -4,6 +4,7 @@
 #include "guides/screens/convform.h"
 #include "shell/logic/processvalues.h"
 #include "shell/settings/settingsslots.h"
+#include "command_doors.h"
 #include "scripted_dialogs.h"
 #include "temp_program_folder.h"
 
@@ -434,3 +435,31 @@ TEST_F(ConvformTest, ChangedPanelColourIsOfferedOnExit)
 }
 
 } // namespace
+
+TEST_F(ConvformTest, EveryCommandHasItsCaptionsAndDoors)
+{
+    auto form = open();
+    ExpectDoors(*form, {
+        {"mSingleEntry", "&Single Entry", "", true},
+        {"mMultipleEntry", "&Multiple Entry", "", true},
+        {"mRound1", RoundModeCaption(RoundMode::None), "", false},
+        {"mRound5", RoundModeCaption(RoundMode::Thousandth), "", false},
+        {"mPanelColor", "Panel C&olor", "", true},
+        {"mExit", "E&xit", "&Close", true},
+        {"mHelp", "Measurement Guide &Help", "", true},
+    });
+    EXPECT_NE(form->findChild<QPushButton*>("Command1"), nullptr) << "the one button is named whole";
+}
+
+TEST_F(ConvformTest, EntryModesAndRoundingAreEachOneTick)
+{
+    auto form = open();
+    EXPECT_TRUE(act(*form, "mSingleEntry")->isChecked());
+    act(*form, "mMultipleEntry")->trigger();
+    EXPECT_TRUE(act(*form, "mMultipleEntry")->isChecked());
+    EXPECT_FALSE(act(*form, "mSingleEntry")->isChecked());
+    EXPECT_TRUE(act(*form, "mRound1")->isChecked());
+    act(*form, "mRound3")->trigger();
+    EXPECT_TRUE(act(*form, "mRound3")->isChecked());
+    EXPECT_FALSE(act(*form, "mRound1")->isChecked());
+}

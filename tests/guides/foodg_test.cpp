@@ -6,6 +6,7 @@
 #include "shell/screens/screenmetrics.h"
 #include "shell/kit/screenstatusbar.h"
 #include "shell/screens/startfrm.h"
+#include "command_doors.h"
 #include "foodguide_expected.h"
 #include "scripted_dialogs.h"
 #include "temp_program_folder.h"
@@ -351,5 +352,29 @@ TEST_F(FoodgTest, TheMainScreensFoodGuideButtonOpensTheFoodGuide)
     EXPECT_EQ(form->windowTitle(), " Food Guide");
     QSignalSpy closed(form, &ActivityWindow::closed);
     form->close();
+    EXPECT_EQ(closed.count(), 1);
+}
+
+TEST_F(FoodgTest, EveryCommandHasItsCaptionsAndDoors)
+{
+    auto form = open();
+    ExpectDoors(*form, {
+        {"mFoodGuide", "&Food Guide", "&Food Guide", true},
+        {"mCommonMeasures", "&Common Measures", "&Common Measures", true},
+        {"mMenuIdeas", "&Menu Ideas", "&Menu Ideas", true},
+        {"mHelpfulHints", "&Helpful Hints", "&Helpful Hints", true},
+        {"mHealthySubstitutes", "&Healthy Substitutes", "&Healthy Substitutes", true},
+        {"mPanelColor", "Panel C&olor", "", true},
+        {"mExit", "E&xit", "E&xit", true},
+        {"mHelp", "Food Guide &Help", "", true},
+    });
+}
+
+TEST_F(FoodgTest, EscapeLeavesTheScreen)
+{
+    auto form = open();
+    form->show();
+    QSignalSpy closed(form.get(), &ActivityWindow::closed);
+    QTest::keyClick(form.get(), Qt::Key_Escape);
     EXPECT_EQ(closed.count(), 1);
 }

@@ -9,6 +9,7 @@
 #include "shell/screens/splash1.h"
 #include "shell/screens/startfrm.h"
 #include "common/widgets/twips.h"
+#include "command_doors.h"
 #include "scripted_dialogs.h"
 #include "temp_program_folder.h"
 #include "raw_slots.h"
@@ -559,4 +560,28 @@ TEST_F(StartfrmTest, InFullScreenAnActivityOpensMaximised)
     ASSERT_TRUE(opened);
     EXPECT_TRUE(opened->isMaximized());
     opened->close();
+}
+
+TEST_F(StartfrmTest, EveryCommandHasItsCaptionsAndDoors)
+{
+    Startfrm form(dialogs, screen);
+    ExpectDoors(form, {
+        {"mBackground", "&Background Selector", "", false},
+        {"mFullScreen", "&Full Screen Display", "", false},
+        {"mSmallerScreen", "&Smaller Screen Display", "", false},
+        {"mDefaultSize", "&Default Screen Size", "", false},
+        {"mFamilyName", "&Family Name", "", false},
+        {"mExit", "E&xit", "E&xit", false},
+        {"mRecipeFiles", "&Recipe Files", "&Recipe File", false},
+        {"mFoodGuide", "&Food Guide", "&Food Guide", false},
+        {"mMeasGuide", "Food &Measurement Guide", "Food &Meas. Guide", false},
+        {"mMenuPlanner", "Menu &Planner", "Menu &Planner", false},
+        {"mShoppingList", "&Shopping List Maker", "&Shopping List Maker", false},
+        {"mEmergency", "&Emergency Food Storage", "&Emergency Storage", false},
+        {"mWeightTracker", "Weight Tracker", "&Weight Tracker", false},
+        {"mOverview", "&Program Overview", "&Help", false},
+        {"mBackupRestore", "&Backup and Restore Option", "", false},
+        {"mAbout", "&About Brindlepot", "", false},
+        {"mWeb", "Tollenmark on the &Web", "", false},
+    });
 }
