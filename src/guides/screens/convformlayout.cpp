@@ -64,13 +64,9 @@ std::vector<CommandRow<ConvformCommand>> Convform::commandRows()
                          .run = [this, mode] { setRoundMode(mode); }, .choiceGroup = 2}});
     }
     rows.insert(rows.end(), {
-        {PanelColor, {.name = "mPanelColor", .menu = "mOptions", .caption = "Panel C&olor", .separatorBefore = true,
-                      .toolbar = {Toolbar::Side, 0}, .run = [this] { choosePanelColor(); }}},
-        {Exit, {.name = "mExit", .menu = "mOptions", .caption = "E&xit", .separatorBefore = true,
-                .button = {"&Close", 0}, .toolbar = {Toolbar::Top, 11}, .run = [this] { exitScreen(); }}},
-        {Help, {.name = "mHelp", .menu = "mHelpMenu", .caption = "Measurement Guide &Help",
-                .toolbar = {Toolbar::Top, 10, true}, .run = [this] { showHelp(); },
-                .shortcut = QKeySequence(Qt::Key_F1)}},
+        {PanelColor, panelColorCommand("mOptions")},
+        {Exit, exitCommand("mOptions", {"&Close", 0})},
+        {Help, helpCommand("mHelpMenu", QStringLiteral("Measurement Guide &Help"))},
     });
     return rows;
 }

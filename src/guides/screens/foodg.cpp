@@ -45,13 +45,9 @@ std::vector<CommandRow<FoodgCommand>> Foodg::commandRows()
         {HealthySubstitutes, {.name = "mHealthySubstitutes", .menu = "mOptions", .caption = "&Healthy Substitutes",
                               .button = {"&Healthy Substitutes", 4}, .toolbar = {Toolbar::Top, 4},
                               .run = page(FoodGuidePage::HealthySubstitutes)}},
-        {PanelColor, {.name = "mPanelColor", .menu = "mOptions", .caption = "Panel C&olor", .separatorBefore = true,
-                      .toolbar = {Toolbar::Side, 0}, .run = [this] { choosePanelColor(); }}},
-        {Exit, {.name = "mExit", .menu = "mOptions", .caption = "E&xit", .separatorBefore = true,
-                .button = {"E&xit", 5}, .toolbar = {Toolbar::Top, 11}, .run = [this] { exitScreen(); }}},
-        {Help, {.name = "mHelp", .menu = "mHelpMenu", .caption = "Food Guide &Help",
-                .toolbar = {Toolbar::Top, 10, true}, .run = [this] { showHelp(); },
-                .shortcut = QKeySequence(Qt::Key_F1)}},
+        {PanelColor, panelColorCommand("mOptions")},
+        {Exit, exitCommand("mOptions", {"E&xit", 5})},
+        {Help, helpCommand("mHelpMenu", QStringLiteral("Food Guide &Help"))},
     };
 }
 

@@ -36,6 +36,8 @@ std::vector<CommandRow<Form5Command>> Form5::commandRows()
 {
     using enum Form5Command;
     const auto rule = [this](bool RecipeCommandStates::*state) { return [this, state] { return on_.*state; }; };
+    CommandSpec exit = exitCommand("mRecipe", {"E&xit", 9});
+    exit.enabled = rule(&RecipeCommandStates::exit); // off while the rename panel is open
     std::vector<CommandRow<Form5Command>> rows = {
         {Create, {.name = "mCreate", .menu = "mRecipe", .caption = "&Create Recipe", .button = {"&Create", 0},
                   .toolbar = {Toolbar::Top, 0}, .run = [this] { createRecipe(); },
@@ -75,9 +77,7 @@ std::vector<CommandRow<Form5Command>> Form5::commandRows()
         {Worksheet, {.name = "mWorksheet", .menu = "mRecipe", .caption = "Print &Worksheet",
                      .toolbar = {Toolbar::Side, 2}, .run = [this] { openPrintPanel(true); },
                      .enabled = rule(&RecipeCommandStates::worksheet)}},
-        {Exit, {.name = "mExit", .menu = "mRecipe", .caption = "E&xit", .separatorBefore = true,
-                .button = {"E&xit", 9}, .toolbar = {Toolbar::Top, 11}, .run = [this] { exitScreen(); },
-                .enabled = rule(&RecipeCommandStates::exit)}},
+        {Exit, exit},
     };
     // The entries' captions take the titles when the cookbook loads.
     for (int cookbook = 1; cookbook <= kCookbookCount; ++cookbook)
@@ -89,13 +89,10 @@ std::vector<CommandRow<Form5Command>> Form5::commandRows()
     rows.insert(rows.end(), {
         {Titles, {.name = "mTitles", .menu = "mOptions", .caption = "Cookbook &Titles", .toolbar = {Toolbar::Side, 1},
                   .run = [this] { openTitles(); }, .enabled = rule(&RecipeCommandStates::cookbookMenus)}},
-        {PanelColor, {.name = "mPanelColor", .menu = "mOptions", .caption = "Panel C&olor", .separatorBefore = true,
-                      .toolbar = {Toolbar::Side, 0}, .run = [this] { choosePanelColor(); }}},
+        {PanelColor, panelColorCommand("mOptions")},
         {Backup, {.name = "mBackup", .menu = "mUtilities", .caption = "&Backup Recipes to Disk"}},
         {Restore, {.name = "mRestore", .menu = "mUtilities", .caption = "&Restore Recipes from Disk"}},
-        {Help, {.name = "mHelp", .menu = "mHelpMenu", .caption = "Recipe File &Help",
-                .toolbar = {Toolbar::Top, 10, true}, .run = [this] { showHelp(); },
-                .shortcut = QKeySequence(Qt::Key_F1)}},
+        {Help, helpCommand("mHelpMenu", QStringLiteral("Recipe File &Help"))},
     });
     return rows;
 }

@@ -64,6 +64,30 @@ void ActivityWindow::exitScreen()
     close();
 }
 
+namespace {
+// Help and exit close the top toolbar, whatever the screen puts before them.
+constexpr int kHelpPlace = 100;
+constexpr int kExitPlace = 101;
+} // namespace
+
+CommandSpec ActivityWindow::panelColorCommand(const char* menu)
+{
+    return {.name = "mPanelColor", .menu = menu, .caption = QStringLiteral("Panel C&olor"), .separatorBefore = true,
+            .toolbar = {Toolbar::Side, 0}, .run = [this] { choosePanelColor(); }};
+}
+
+CommandSpec ActivityWindow::helpCommand(const char* menu, const QString& caption)
+{
+    return {.name = "mHelp", .menu = menu, .caption = caption, .toolbar = {Toolbar::Top, kHelpPlace, true},
+            .run = [this] { showHelp(); }, .shortcut = QKeySequence(Qt::Key_F1)};
+}
+
+CommandSpec ActivityWindow::exitCommand(const char* menu, const ButtonPlace& button)
+{
+    return {.name = "mExit", .menu = menu, .caption = QStringLiteral("E&xit"), .separatorBefore = true,
+            .button = button, .toolbar = {Toolbar::Top, kExitPlace}, .run = [this] { exitScreen(); }};
+}
+
 void ActivityWindow::pressEscape()
 {
     for (const EscapeStep& step : escapeOrder_) {

@@ -78,6 +78,12 @@ protected:
     void choosePanelColor();
     void showHelp();
     void exitScreen();
+    // Their rows, alike on every screen: "Panel C&olor" first on the side
+    // toolbar; the help entry on F1 and the top toolbar, after a gap;
+    // "E&xit" last on the top toolbar, with the screen's button if it has one.
+    CommandSpec panelColorCommand(const char* menu);
+    CommandSpec helpCommand(const char* menu, const QString& caption);
+    CommandSpec exitCommand(const char* menu, const ButtonPlace& button = {});
 
     // The save question before a command that would lose the screen's work:
     // Yes runs `save` and the command goes on only when the save held; No
