@@ -45,9 +45,9 @@ void Convform::chooseOption(int index)
     chosenOption_ = index;
     if (QAbstractButton* button = options_->button(index); button && !button->isChecked())
         button->setChecked(true);
-    const EntryReading reading = ReadEntry(text1_->text(), index);
+    const EntryReading reading = ReadEntry(entryBox_->text(), index);
     if (reading.boxText)
-        text1_->setText(*reading.boxText);
+        entryBox_->setText(*reading.boxText);
     entryValue_ = reading.value;
     if (multipleEntry_) {
         entryTouched_ = false;
@@ -55,7 +55,7 @@ void Convform::chooseOption(int index)
         return;
     }
     if (entryTouched_)
-        text1_->setText(EntryBoxText(entryValue_));
+        entryBox_->setText(EntryBoxText(entryValue_));
     entryTouched_ = false;
     showSingle(*option);
 }
@@ -63,28 +63,28 @@ void Convform::chooseOption(int index)
 void Convform::showSingle(const ConversionOption& option)
 {
     const SingleConversion single = ConvertSingle(option, entryValue_, roundMode_);
-    label1_->setText(single.fromLabel);
-    label2_->setText(single.toLabel);
+    fromUnit_->setText(single.fromLabel);
+    toUnit_->setText(single.toLabel);
     resultPanel_->setText(single.resultText);
-    label1_->show();
+    fromUnit_->show();
     resultPanel_->show();
-    label2_->show();
+    toUnit_->show();
 }
 
 void Convform::showMultiple(const ConversionOption& option)
 {
-    const EntryRange range = ReadRange(entryValue_, text2_->text());
+    const EntryRange range = ReadRange(entryValue_, endingBox_->text());
     if (range.endingBoxText)
-        text2_->setText(*range.endingBoxText);
+        endingBox_->setText(*range.endingBoxText);
     const QList<ConversionRow> rows = ConvertRange(option, range, roundMode_);
     grid_->clearRows();
     grid_->setRowCount(int(rows.size()));
     for (int row = 0; row < int(rows.size()); ++row)
         grid_->setRowTexts(row, {rows[row].amount, rows[row].converted});
-    label1_->setText(QString::fromLatin1(option.fromUnit) + QStringLiteral(" = "));
-    label2_->setText(QString::fromLatin1(option.toUnit));
-    label1_->show();
-    label2_->show();
+    fromUnit_->setText(QString::fromLatin1(option.fromUnit) + QStringLiteral(" = "));
+    toUnit_->setText(QString::fromLatin1(option.toUnit));
+    fromUnit_->show();
+    toUnit_->show();
 }
 
 void Convform::setRoundMode(RoundMode mode)
@@ -92,7 +92,7 @@ void Convform::setRoundMode(RoundMode mode)
     roundMode_ = mode;
     commands_->action(ConvformCommand(int(ConvformCommand::Round1) + int(mode) - int(RoundMode::None)))
         ->setChecked(true);
-    if (chosenOption_ != kNoOption && !text1_->text().isEmpty())
+    if (chosenOption_ != kNoOption && !entryBox_->text().isEmpty())
         chooseOption(chosenOption_);
 }
 
@@ -102,21 +102,21 @@ void Convform::setMultipleEntry(bool multiple)
 {
     multipleEntry_ = multiple;
     commands_->action(multiple ? ConvformCommand::MultipleEntry : ConvformCommand::SingleEntry)->setChecked(true);
-    text1_->clear();
-    text2_->clear();
-    label1_->clear();
-    label2_->clear();
-    label1_->hide();
-    label2_->hide();
+    entryBox_->clear();
+    endingBox_->clear();
+    fromUnit_->clear();
+    toUnit_->clear();
+    fromUnit_->hide();
+    toUnit_->hide();
     resultPanel_->clear();
     resultPanel_->hide();
     grid_->clearRows();
-    text1Caption_->setText(EntryCaption(multiple));
-    text2Caption_->setVisible(multiple);
-    text2_->setVisible(multiple);
+    entryCaption_->setText(EntryCaption(multiple));
+    endingCaption_->setVisible(multiple);
+    endingBox_->setVisible(multiple);
     gridPanel_->setVisible(multiple);
     placeUnitLabels();
-    text1_->setFocus(Qt::OtherFocusReason);
+    entryBox_->setFocus(Qt::OtherFocusReason);
     entryBoxEntered();
 }
 
@@ -124,17 +124,17 @@ void Convform::placeUnitLabels()
 {
     QBoxLayout* from = multipleEntry_ ? resultRow_ : gridLabelRow_;
     QBoxLayout* to = multipleEntry_ ? gridLabelRow_ : resultRow_;
-    if (to->indexOf(label1_) >= 0)
+    if (to->indexOf(fromUnit_) >= 0)
         return;
-    from->removeWidget(label1_);
-    from->removeWidget(label2_);
+    from->removeWidget(fromUnit_);
+    from->removeWidget(toUnit_);
     if (multipleEntry_) {
         // Centred over the grid: between the row's two stretches.
-        to->insertWidget(1, label1_);
-        to->insertWidget(2, label2_);
+        to->insertWidget(1, fromUnit_);
+        to->insertWidget(2, toUnit_);
     } else {
-        to->insertWidget(0, label1_);
-        to->addWidget(label2_);
+        to->insertWidget(0, fromUnit_);
+        to->addWidget(toUnit_);
     }
 }
 
@@ -145,9 +145,9 @@ void Convform::entryBoxEntered()
     clearChosenOption();
     entryTouched_ = true;
     if (!multipleEntry_) {
-        label1_->hide();
+        fromUnit_->hide();
         resultPanel_->hide();
-        label2_->hide();
+        toUnit_->hide();
     }
 }
 
@@ -164,7 +164,7 @@ void Convform::clearChosenOption()
 
 bool Convform::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::FocusIn && (watched == text1_ || watched == text2_))
+    if (event->type() == QEvent::FocusIn && (watched == entryBox_ || watched == endingBox_))
         entryBoxEntered();
     return ActivityWindow::eventFilter(watched, event);
 }

@@ -56,12 +56,12 @@ private:
 
     std::unique_ptr<CommandTable<ConvformCommand>> commands_;
     QList<QWidget*> colouredPanels_;
-    QLineEdit* text1_ = nullptr;             // Text1
-    QLineEdit* text2_ = nullptr;             // Text2
-    QLabel* text1Caption_ = nullptr;
-    QLabel* text2Caption_ = nullptr;
-    QLabel* label1_ = nullptr;               // Label1: from unit and " = "
-    QLabel* label2_ = nullptr;               // Label2: to unit
+    QLineEdit* entryBox_ = nullptr;          // Text1
+    QLineEdit* endingBox_ = nullptr;         // Text2
+    QLabel* entryCaption_ = nullptr;
+    QLabel* endingCaption_ = nullptr;
+    QLabel* fromUnit_ = nullptr;             // Label1: from unit and " = "
+    QLabel* toUnit_ = nullptr;               // Label2: to unit
     QLabel* resultPanel_ = nullptr;          // Panel3D1
     QFrame* gridPanel_ = nullptr;
     ScreenGrid* grid_ = nullptr;             // Grid1

@@ -78,32 +78,32 @@ QFrame* Convform::buildEntryPanel(QWidget* parent)
     QFrame* panel = MakeRaisedPanel(QStringLiteral("SSPanel1"), parent);
     auto* row = new QHBoxLayout(panel);
     row->setContentsMargins(12, 10, 12, 10);
-    text1Caption_ = BoldLabel(EntryCaption(false), panel, "Text1Caption");
-    text1_ = new QLineEdit(panel);
-    text1_->setObjectName(QStringLiteral("Text1"));
-    text2Caption_ = BoldLabel(EndingCaption(), panel, "Text2Caption");
-    text2_ = new QLineEdit(panel);
-    text2_->setObjectName(QStringLiteral("Text2"));
-    for (QLineEdit* box : {text1_, text2_}) {
-        box->setFixedWidth(text1_->fontMetrics().horizontalAdvance(QStringLiteral("0,000,000.0000")) + 16);
+    entryCaption_ = BoldLabel(EntryCaption(false), panel, "Text1Caption");
+    entryBox_ = new QLineEdit(panel);
+    entryBox_->setObjectName(QStringLiteral("Text1"));
+    endingCaption_ = BoldLabel(EndingCaption(), panel, "Text2Caption");
+    endingBox_ = new QLineEdit(panel);
+    endingBox_->setObjectName(QStringLiteral("Text2"));
+    for (QLineEdit* box : {entryBox_, endingBox_}) {
+        box->setFixedWidth(entryBox_->fontMetrics().horizontalAdvance(QStringLiteral("0,000,000.0000")) + 16);
         box->installEventFilter(this);
         connect(box, &QLineEdit::returnPressed, this,
                 [this] { dialogs().tell(InputInformationTitle(), InputInformationText(), Icon::Information); });
     }
-    row->addWidget(text1Caption_);
-    row->addWidget(text1_);
+    row->addWidget(entryCaption_);
+    row->addWidget(entryBox_);
     row->addSpacing(12);
-    row->addWidget(text2Caption_);
-    row->addWidget(text2_);
+    row->addWidget(endingCaption_);
+    row->addWidget(endingBox_);
     row->addSpacing(12);
 
     // The answer is what the user came for: a size larger than the rest.
-    label1_ = BoldLabel({}, panel, "Label1");
-    label2_ = BoldLabel({}, panel, "Label2");
-    QFont answerFont = label1_->font();
+    fromUnit_ = BoldLabel({}, panel, "Label1");
+    toUnit_ = BoldLabel({}, panel, "Label2");
+    QFont answerFont = fromUnit_->font();
     answerFont.setPointSize(answerFont.pointSize() + 2);
-    label1_->setFont(answerFont);
-    label2_->setFont(answerFont);
+    fromUnit_->setFont(answerFont);
+    toUnit_->setFont(answerFont);
     resultPanel_ = new QLabel(panel);
     resultPanel_->setObjectName(QStringLiteral("Panel3D1"));
     resultPanel_->setFrameStyle(QFrame::Panel | QFrame::Sunken);
@@ -114,12 +114,12 @@ QFrame* Convform::buildEntryPanel(QWidget* parent)
     resultPanel_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     resultRow_ = new QHBoxLayout;
     resultRow_->setSpacing(0);
-    resultRow_->addWidget(label1_);
+    resultRow_->addWidget(fromUnit_);
     resultRow_->addWidget(resultPanel_);
     // The to unit follows the result panel at 70 twips, however wide the
     // result is.
     resultRow_->addSpacing(TwipsToPixels(70, panel));
-    resultRow_->addWidget(label2_);
+    resultRow_->addWidget(toUnit_);
     row->addLayout(resultRow_);
     row->addStretch(1);
     return panel;

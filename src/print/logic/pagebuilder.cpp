@@ -10,13 +10,6 @@ PageBuilder::PageBuilder(const TextMeasurer& measurer, const PageSetup& page) : 
     startDoc();
 }
 
-void PageBuilder::setPage(const PageSetup& page)
-{
-    page_ = page;
-    document_.pageWidth = pageWidth();
-    document_.pageHeight = pageHeight();
-}
-
 void PageBuilder::setMargins(double left, double top, double right, double bottom)
 {
     marginLeft_ = left;

@@ -21,8 +21,6 @@ public:
 
     explicit PageBuilder(const TextMeasurer& measurer, const PageSetup& page = {});
 
-    // The paper of the next document.
-    void setPage(const PageSetup& page);
     double pageWidth() const { return page_.pageWidth(); }
     double pageHeight() const { return page_.pageHeight(); }
 

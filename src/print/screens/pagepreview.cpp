@@ -135,7 +135,3 @@ void PagePreview::refresh()
     view_->setPaperWidth(large_ ? fitWidth : fitPage);
 }
 
-QImage PagePreview::renderedPage() const
-{
-    return view_->grab().toImage();
-}

@@ -31,9 +31,6 @@ public:
     void setLarge(bool large);
     bool large() const { return large_; }
 
-    // The page in view as it is drawn now, for screen tests and screenshots.
-    QImage renderedPage() const;
-
 protected:
     // The page is sized to the scroll area's viewport whenever that changes.
     bool eventFilter(QObject* watched, QEvent* event) override;

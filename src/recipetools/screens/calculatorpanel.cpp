@@ -29,31 +29,31 @@ CalculatorPanel::CalculatorPanel(QWidget* parent)
     note->setWordWrap(true);
     note->setMinimumWidth(360);
 
-    label20_ = new QLabel(this);
-    label20_->setObjectName(QStringLiteral("Label20"));
-    label21_ = new QLabel(this);
-    label21_->setObjectName(QStringLiteral("Label21"));
-    text9_ = new QLineEdit(this);
-    text9_->setObjectName(QStringLiteral("Text9"));
+    currentYield_ = new QLabel(this);
+    currentYield_->setObjectName(QStringLiteral("Label20"));
+    currentYieldType_ = new QLabel(this);
+    currentYieldType_->setObjectName(QStringLiteral("Label21"));
+    newYieldBox_ = new QLineEdit(this);
+    newYieldBox_->setObjectName(QStringLiteral("Text9"));
     // The new yield is written into the recipe's yield field as typed.
-    text9_->setMaxLength(kYieldLength);
-    text9_->setMaximumWidth(80);
-    text9_->installEventFilter(this);
-    label24_ = new QLabel(this);
-    label24_->setObjectName(QStringLiteral("Label24"));
+    newYieldBox_->setMaxLength(kYieldLength);
+    newYieldBox_->setMaximumWidth(80);
+    newYieldBox_->installEventFilter(this);
+    newYieldType_ = new QLabel(this);
+    newYieldType_->setObjectName(QStringLiteral("Label24"));
 
-    command9_ = addButton(QStringLiteral("Command9"), QStringLiteral("Calculate New &Amounts"));
-    command10_ = addButton(QStringLiteral("Command10"), QStringLiteral("&Close"));
-    connect(command9_, &QPushButton::clicked, this, &CalculatorPanel::calculateRequested);
-    connect(command10_, &QPushButton::clicked, this, &CalculatorPanel::closeRequested);
+    calculateButton_ = addButton(QStringLiteral("Command9"), QStringLiteral("Calculate New &Amounts"));
+    closeButton_ = addButton(QStringLiteral("Command10"), QStringLiteral("&Close"));
+    connect(calculateButton_, &QPushButton::clicked, this, &CalculatorPanel::calculateRequested);
+    connect(closeButton_, &QPushButton::clicked, this, &CalculatorPanel::closeRequested);
 
     auto* current = new QHBoxLayout;
-    current->addWidget(label20_);
-    current->addWidget(label21_);
+    current->addWidget(currentYield_);
+    current->addWidget(currentYieldType_);
     current->addStretch();
     auto* changeTo = new QHBoxLayout;
-    changeTo->addWidget(text9_);
-    changeTo->addWidget(label24_);
+    changeTo->addWidget(newYieldBox_);
+    changeTo->addWidget(newYieldType_);
     changeTo->addStretch();
     body()->addWidget(note);
     form()->addRow(QStringLiteral("Current Yield Is:"), current);
@@ -62,49 +62,49 @@ CalculatorPanel::CalculatorPanel(QWidget* parent)
 
 void CalculatorPanel::open(const QString& currentYield, const QString& yieldType)
 {
-    label20_->setText(currentYield);
-    label21_->setText(yieldType);
-    label24_->setText(label21_->text());
-    text9_->clear();
-    OverlayPanel::open(text9_);
+    currentYield_->setText(currentYield);
+    currentYieldType_->setText(yieldType);
+    newYieldType_->setText(currentYieldType_->text());
+    newYieldBox_->clear();
+    OverlayPanel::open(newYieldBox_);
 }
 
 QString CalculatorPanel::newYield() const
 {
-    return text9_->text();
+    return newYieldBox_->text();
 }
 
 QString CalculatorPanel::currentYield() const
 {
-    return label20_->text();
+    return currentYield_->text();
 }
 
 void CalculatorPanel::setCurrentYield(const QString& yield)
 {
-    label20_->setText(yield);
+    currentYield_->setText(yield);
 }
 
 void CalculatorPanel::clearNewYield()
 {
-    text9_->clear();
+    newYieldBox_->clear();
 }
 
 void CalculatorPanel::clear()
 {
-    label20_->clear();
-    label21_->clear();
-    text9_->clear();
-    label24_->clear();
+    currentYield_->clear();
+    currentYieldType_->clear();
+    newYieldBox_->clear();
+    newYieldType_->clear();
 }
 
 QString CalculatorPanel::newYieldType() const
 {
-    return label24_->text();
+    return newYieldType_->text();
 }
 
 bool CalculatorPanel::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == text9_) {
+    if (watched == newYieldBox_) {
         if (event->type() == QEvent::KeyPress) {
             const auto* key = static_cast<QKeyEvent*>(event);
             if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
@@ -124,12 +124,12 @@ bool CalculatorPanel::eventFilter(QObject* watched, QEvent* event)
 
 void CalculatorPanel::newYieldKeyReleased()
 {
-    const QString filtered = FilterYieldBox(text9_->text());
-    if (filtered != text9_->text()) {
-        text9_->setText(filtered);
-        text9_->end(false);
+    const QString filtered = FilterYieldBox(newYieldBox_->text());
+    if (filtered != newYieldBox_->text()) {
+        newYieldBox_->setText(filtered);
+        newYieldBox_->end(false);
     }
-    const QString newType = YieldTypeForTyped(filtered, label24_->text());
-    label24_->setText(newType);
+    const QString newType = YieldTypeForTyped(filtered, newYieldType_->text());
+    newYieldType_->setText(newType);
     emit yieldTypeTyped(newType);
 }

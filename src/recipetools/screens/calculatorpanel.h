@@ -27,9 +27,8 @@ public:
     void clear();
     QString newYieldType() const;
 
-    QLineEdit* newYieldBox() const { return text9_; }
-    QPushButton* calculateButton() const { return command9_; }
-    QPushButton* closeButton() const { return command10_; }
+    QLineEdit* newYieldBox() const { return newYieldBox_; }
+    QPushButton* closeButton() const { return closeButton_; }
 
 signals:
     // "Calculate New &Amounts", or Enter in the new yield box.
@@ -44,10 +43,10 @@ protected:
 private:
     void newYieldKeyReleased();
 
-    QLabel* label20_ = nullptr;   // current yield number
-    QLabel* label21_ = nullptr;   // current yield type
-    QLineEdit* text9_ = nullptr;  // new yield number
-    QLabel* label24_ = nullptr;   // new yield type
-    QPushButton* command9_ = nullptr;
-    QPushButton* command10_ = nullptr;
+    QLabel* currentYield_ = nullptr;      // Label20
+    QLabel* currentYieldType_ = nullptr;  // Label21
+    QLineEdit* newYieldBox_ = nullptr;    // Text9
+    QLabel* newYieldType_ = nullptr;      // Label24
+    QPushButton* calculateButton_ = nullptr;
+    QPushButton* closeButton_ = nullptr;
 };

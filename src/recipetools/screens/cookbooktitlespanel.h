@@ -14,7 +14,6 @@ public:
 
     void open(const QStringList& titles);
     QStringList titles() const;
-    QLineEdit* titleBox(int cookbook) const { return boxes_.value(cookbook - 1); }
 
 signals:
     void saveRequested(const QStringList& titles);

@@ -57,7 +57,6 @@ public:
     bool recipeChanged() const { return model_.state().recipeChanged; }
     RecipeFieldsPanel* fieldsPanel() const { return fields_; }
     PrintOptionsPanel* printPanel() const { return printPanel_; }
-    RecipePrintOptions* printOptions() const { return printOptions_; }
     AdditionalRecipesPanel* additionalRecipesPanel() const { return additionalRecipes_; }
     // Where the printout's date comes from; the system clock unless a test says.
     void setClock(const Clock& clock) { clock_ = &clock; }

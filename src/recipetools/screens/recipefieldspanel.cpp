@@ -7,6 +7,7 @@
 #include "recipetools/logic/amountformat.h"
 #include "recipetools/logic/recipewords.h"
 #include "shell/kit/droplist.h"
+#include "shell/kit/raisedpanel.h"
 
 #include <QComboBox>
 #include <QEvent>
@@ -50,15 +51,6 @@ QLabel* Caption(const QString& text, QWidget* parent, bool bold = false)
     return label;
 }
 
-QFrame* Block(const QString& name, QWidget* parent)
-{
-    auto* frame = new QFrame(parent);
-    frame->setObjectName(name);
-    frame->setFrameStyle(QFrame::Panel | QFrame::Raised);
-    frame->setAutoFillBackground(true);
-    return frame;
-}
-
 // The directions keep their line breaks as CR LF, as they are stored; the
 // box itself works with plain line feeds.
 QString StoredDirections(QString boxText)
@@ -78,56 +70,56 @@ RecipeFieldsPanel::RecipeFieldsPanel(QWidget* parent) : QWidget(parent)
     setObjectName(QStringLiteral("RecipeFields"));
     buildLayout();
 
-    combo3_ = new DropList(QStringLiteral("Combo3"), AmountPickTexts(), this);
-    combo5_ = new DropList(QStringLiteral("Combo5"), SingularUnits(), this);
-    combo6_ = new DropList(QStringLiteral("Combo6"), PluralUnits(), this);
-    for (DropList* list : {combo3_, combo5_, combo6_}) {
+    amountDropList_ = new DropList(QStringLiteral("Combo3"), AmountPickTexts(), this);
+    singularUnitList_ = new DropList(QStringLiteral("Combo5"), SingularUnits(), this);
+    pluralUnitList_ = new DropList(QStringLiteral("Combo6"), PluralUnits(), this);
+    for (DropList* list : {amountDropList_, singularUnitList_, pluralUnitList_}) {
         connect(list, &DropList::picked, this, &RecipeFieldsPanel::dropListPicked);
         connect(list, &DropList::givingFocusBack, this, [this](QLineEdit* box) { returningFrom_ = box; });
     }
 
     for (int row = 0; row < kRecipeRows; ++row) {
-        connect(text1_[row], &QLineEdit::textEdited, this, [this, row] { filterAmount(row); });
-        for (QLineEdit* box : {text4_[row], text5_[row]})
+        connect(amountBoxes_[row], &QLineEdit::textEdited, this, [this, row] { filterAmount(row); });
+        for (QLineEdit* box : {unitBoxes_[row], ingredientBoxes_[row]})
             connect(box, &QLineEdit::textEdited, this, [this, box] { refuseQuote(box); });
     }
-    for (QLineEdit* box : {text8_, text3_, text7_, text6_})
+    for (QLineEdit* box : {nameBox_, ovenTemperatureBox_, cookingTimeBox_, yieldAmountBox_})
         connect(box, &QLineEdit::textEdited, this, [this, box] { refuseQuote(box); });
-    connect(combo4_, &QComboBox::editTextChanged, this, [this] {
-        if (combo4_->hasFocus())
+    connect(yieldTypeList_, &QComboBox::editTextChanged, this, [this] {
+        if (yieldTypeList_->hasFocus())
             emit recipeEdited();
     });
-    connect(text2_, &QPlainTextEdit::textChanged, this, &RecipeFieldsPanel::showDirectionsLength);
-    connect(list1_, &QListWidget::itemClicked, this, &RecipeFieldsPanel::currentNamesClicked);
+    connect(directionsBox_, &QPlainTextEdit::textChanged, this, &RecipeFieldsPanel::showDirectionsLength);
+    connect(currentNamesList_, &QListWidget::itemClicked, this, &RecipeFieldsPanel::currentNamesClicked);
     setEditable(false);
     showNameBox(false);
 }
 
 void RecipeFieldsPanel::buildLayout()
 {
-    auto* top = Block(QStringLiteral("Frame1"), this);
-    combo1_ = new QComboBox(top);
-    combo1_->setObjectName(QStringLiteral("Combo1"));
-    combo1_->addItems(RecipeTypeNames());
-    combo1_->setCurrentIndex(-1);
-    combo1_->setMaxVisibleItems(22);
-    combo2_ = new QComboBox;
-    combo2_->setObjectName(QStringLiteral("Combo2"));
-    combo2_->setMaxVisibleItems(20);
-    text8_ = MakeBox(QStringLiteral("Text8"), kRecipeNameLength, nullptr);
+    auto* top = MakeRaisedPanel(QStringLiteral("Frame1"), this);
+    typeList_ = new QComboBox(top);
+    typeList_->setObjectName(QStringLiteral("Combo1"));
+    typeList_->addItems(RecipeTypeNames());
+    typeList_->setCurrentIndex(-1);
+    typeList_->setMaxVisibleItems(22);
+    pickList_ = new QComboBox;
+    pickList_->setObjectName(QStringLiteral("Combo2"));
+    pickList_->setMaxVisibleItems(20);
+    nameBox_ = MakeBox(QStringLiteral("Text8"), kRecipeNameLength, nullptr);
     nameStack_ = new QStackedWidget(top);
-    nameStack_->addWidget(combo2_);
-    nameStack_->addWidget(text8_);
+    nameStack_->addWidget(pickList_);
+    nameStack_->addWidget(nameBox_);
     nameStack_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     auto* topRow = new QHBoxLayout(top);
     topRow->setContentsMargins(6, 4, 6, 4);
     topRow->addWidget(Caption(QStringLiteral("Type:"), top, true));
-    topRow->addWidget(combo1_, 2);
+    topRow->addWidget(typeList_, 2);
     topRow->addSpacing(16);
     topRow->addWidget(Caption(QStringLiteral("Recipe:"), top, true));
     topRow->addWidget(nameStack_, 3);
 
-    auto* rows = Block(QStringLiteral("Frame2"), this);
+    auto* rows = MakeRaisedPanel(QStringLiteral("Frame2"), this);
     auto* grid = new QGridLayout(rows);
     grid->setContentsMargins(6, 4, 6, 4);
     grid->setHorizontalSpacing(4);
@@ -143,50 +135,50 @@ void RecipeFieldsPanel::buildLayout()
     for (int row = 0; row < kRecipeRows; ++row) {
         const int column = row < kRowsPerBlock ? 0 : 4;
         const int line = 2 + row % kRowsPerBlock;
-        text1_[row] = MakeBox(QStringLiteral("Text1_%1").arg(row), kShownAmountLength, rows);
-        text4_[row] = MakeBox(QStringLiteral("Text4_%1").arg(row), kUnitLength, rows);
-        text5_[row] = MakeBox(QStringLiteral("Text5_%1").arg(row), kIngredientLength, rows);
-        text1_[row]->setFixedWidth(56);
-        text4_[row]->setFixedWidth(72);
-        text5_[row]->setMinimumWidth(120); // the screen still fits a window of 800 by 600
-        grid->addWidget(text1_[row], line, column);
-        grid->addWidget(text4_[row], line, column + 1);
-        grid->addWidget(text5_[row], line, column + 2);
+        amountBoxes_[row] = MakeBox(QStringLiteral("Text1_%1").arg(row), kShownAmountLength, rows);
+        unitBoxes_[row] = MakeBox(QStringLiteral("Text4_%1").arg(row), kUnitLength, rows);
+        ingredientBoxes_[row] = MakeBox(QStringLiteral("Text5_%1").arg(row), kIngredientLength, rows);
+        amountBoxes_[row]->setFixedWidth(56);
+        unitBoxes_[row]->setFixedWidth(72);
+        ingredientBoxes_[row]->setMinimumWidth(120); // the screen still fits a window of 800 by 600
+        grid->addWidget(amountBoxes_[row], line, column);
+        grid->addWidget(unitBoxes_[row], line, column + 1);
+        grid->addWidget(ingredientBoxes_[row], line, column + 2);
     }
     grid->setColumnStretch(2, 1);
     grid->setColumnStretch(6, 1);
 
-    auto* bottom = Block(QStringLiteral("Frame3"), this);
-    text2_ = new QPlainTextEdit(bottom);
-    text2_->setObjectName(QStringLiteral("Text2"));
-    text2_->setTabChangesFocus(true);
-    text2_->setMinimumSize(160, 48);
-    label13_ = new QLabel(QStringLiteral("0"), bottom);
-    label13_->setObjectName(QStringLiteral("Label13"));
+    auto* bottom = MakeRaisedPanel(QStringLiteral("Frame3"), this);
+    directionsBox_ = new QPlainTextEdit(bottom);
+    directionsBox_->setObjectName(QStringLiteral("Text2"));
+    directionsBox_->setTabChangesFocus(true);
+    directionsBox_->setMinimumSize(160, 48);
+    directionsLength_ = new QLabel(QStringLiteral("0"), bottom);
+    directionsLength_->setObjectName(QStringLiteral("Label13"));
     // The length counter stands under the box, where it takes no width
     // from the cooking and serving information.
     auto* counter = new QHBoxLayout;
     counter->addStretch();
     counter->addWidget(Caption(QStringLiteral("Length (Max. = 1000) :"), bottom));
-    counter->addWidget(label13_);
+    counter->addWidget(directionsLength_);
     auto* directions = new QVBoxLayout;
     directions->setSpacing(2);
     directions->addWidget(Caption(QStringLiteral("   Directions:"), bottom, true));
-    directions->addWidget(text2_);
+    directions->addWidget(directionsBox_);
     directions->addLayout(counter);
 
-    text3_ = MakeBox(QStringLiteral("Text3"), kOvenTemperatureLength, bottom);
-    text3_->setFixedWidth(56);
-    text7_ = MakeBox(QStringLiteral("Text7"), kCookingTimeLength, bottom);
-    text6_ = MakeBox(QStringLiteral("Text6"), kYieldLength, bottom);
-    text6_->setFixedWidth(56);
-    combo4_ = new QComboBox(bottom);
-    combo4_->setObjectName(QStringLiteral("Combo4"));
-    combo4_->setEditable(true);
-    combo4_->setInsertPolicy(QComboBox::NoInsert);
-    combo4_->addItems(YieldTypes()); // in this order, servings first, not sorted
-    combo4_->setCurrentIndex(-1);
-    combo4_->setEditText(QString());
+    ovenTemperatureBox_ = MakeBox(QStringLiteral("Text3"), kOvenTemperatureLength, bottom);
+    ovenTemperatureBox_->setFixedWidth(56);
+    cookingTimeBox_ = MakeBox(QStringLiteral("Text7"), kCookingTimeLength, bottom);
+    yieldAmountBox_ = MakeBox(QStringLiteral("Text6"), kYieldLength, bottom);
+    yieldAmountBox_->setFixedWidth(56);
+    yieldTypeList_ = new QComboBox(bottom);
+    yieldTypeList_->setObjectName(QStringLiteral("Combo4"));
+    yieldTypeList_->setEditable(true);
+    yieldTypeList_->setInsertPolicy(QComboBox::NoInsert);
+    yieldTypeList_->addItems(YieldTypes()); // in this order, servings first, not sorted
+    yieldTypeList_->setCurrentIndex(-1);
+    yieldTypeList_->setEditText(QString());
     // Three rows, each block's heading beside its first field, so that the
     // whole screen still fits a window of 800 by 600.
     auto* info = new QGridLayout;
@@ -194,16 +186,16 @@ void RecipeFieldsPanel::buildLayout()
     info->addWidget(Caption(QStringLiteral("   Cooking Information:"), bottom, true), 0, 0);
     info->addWidget(Caption(QStringLiteral("Oven Temperature:"), bottom), 0, 1);
     auto* oven = new QHBoxLayout;
-    oven->addWidget(text3_);
+    oven->addWidget(ovenTemperatureBox_);
     oven->addWidget(Caption(QStringLiteral("Degrees"), bottom));
     oven->addStretch();
     info->addLayout(oven, 0, 2, 1, 2);
     info->addWidget(Caption(QStringLiteral("Cooking Time:"), bottom), 1, 1);
-    info->addWidget(text7_, 1, 2, 1, 2);
+    info->addWidget(cookingTimeBox_, 1, 2, 1, 2);
     info->addWidget(Caption(QStringLiteral("  Serving Information:"), bottom, true), 2, 0);
     info->addWidget(Caption(QStringLiteral("Yields:"), bottom), 2, 1);
-    info->addWidget(text6_, 2, 2);
-    info->addWidget(combo4_, 2, 3);
+    info->addWidget(yieldAmountBox_, 2, 2);
+    info->addWidget(yieldTypeList_, 2, 3);
     info->setRowStretch(3, 1);
     auto* bottomRow = new QHBoxLayout(bottom);
     bottomRow->setContentsMargins(6, 4, 6, 4);
@@ -219,21 +211,21 @@ void RecipeFieldsPanel::buildLayout()
     layout->addWidget(bottom, 1);
     frames_ = {top, rows, bottom};
 
-    namesPanel_ = Block(QStringLiteral("Current Recipe Names"), this);
-    list1_ = new QListWidget(namesPanel_);
-    list1_->setObjectName(QStringLiteral("List1"));
-    list1_->setSortingEnabled(false);
+    namesPanel_ = MakeRaisedPanel(QStringLiteral("Current Recipe Names"), this);
+    currentNamesList_ = new QListWidget(namesPanel_);
+    currentNamesList_->setObjectName(QStringLiteral("List1"));
+    currentNamesList_->setSortingEnabled(false);
     auto* names = new QVBoxLayout(namesPanel_);
     names->addWidget(Caption(QStringLiteral("Current Recipe Names"), namesPanel_, true));
-    names->addWidget(list1_);
+    names->addWidget(currentNamesList_);
     namesPanel_->resize(300, 260);
     namesPanel_->hide();
     frames_ << namesPanel_;
 
-    QList<QWidget*> fields = {combo1_, combo2_, text8_};
+    QList<QWidget*> fields = {typeList_, pickList_, nameBox_};
     for (int row = 0; row < kRecipeRows; ++row)
-        fields << text1_[row] << text4_[row] << text5_[row];
-    fields << text2_ << text3_ << text7_ << text6_ << combo4_;
+        fields << amountBoxes_[row] << unitBoxes_[row] << ingredientBoxes_[row];
+    fields << directionsBox_ << ovenTemperatureBox_ << cookingTimeBox_ << yieldAmountBox_ << yieldTypeList_;
     for (QWidget* field : fields)
         watch(field);
     // Tab follows the rows: amount, unit, ingredient, then the next row.
@@ -264,17 +256,17 @@ void RecipeFieldsPanel::showCurrentNames()
 
 void RecipeFieldsPanel::showPickEntries(const QStringList& entries)
 {
-    combo2_->clear();
+    pickList_->clear();
     for (const QString& entry : entries)
-        combo2_->addItem(RecipeNameOf(entry), entry);
-    combo2_->setCurrentIndex(-1);
+        pickList_->addItem(RecipeNameOf(entry), entry);
+    pickList_->setCurrentIndex(-1);
 }
 
 void RecipeFieldsPanel::showCurrentNameEntries(const QStringList& entries)
 {
-    list1_->clear();
+    currentNamesList_->clear();
     for (const QString& entry : entries) {
-        auto* item = new QListWidgetItem(RecipeNameOf(entry), list1_);
+        auto* item = new QListWidgetItem(RecipeNameOf(entry), currentNamesList_);
         item->setData(Qt::UserRole, entry);
     }
 }
@@ -287,110 +279,98 @@ void RecipeFieldsPanel::setEntryCheck(std::function<bool(QWidget*, Qt::FocusReas
 void RecipeFieldsPanel::setEditable(bool editable)
 {
     editable_ = editable;
-    text8_->setReadOnly(!editable);
+    nameBox_->setReadOnly(!editable);
     for (int row = 0; row < kRecipeRows; ++row) {
         // A shorter limit cuts the text in the box: the amounts to show in
         // the new mode are set after this.
-        text1_[row]->setMaxLength(editable ? kAmountLength : kShownAmountLength);
-        text1_[row]->setReadOnly(!editable);
-        text4_[row]->setReadOnly(!editable);
-        text5_[row]->setReadOnly(!editable);
+        amountBoxes_[row]->setMaxLength(editable ? kAmountLength : kShownAmountLength);
+        amountBoxes_[row]->setReadOnly(!editable);
+        unitBoxes_[row]->setReadOnly(!editable);
+        ingredientBoxes_[row]->setReadOnly(!editable);
     }
-    text2_->setReadOnly(!editable);
-    text3_->setReadOnly(!editable);
-    text7_->setReadOnly(!editable);
-    text6_->setReadOnly(!editable);
-    combo4_->lineEdit()->setReadOnly(!editable);
+    directionsBox_->setReadOnly(!editable);
+    ovenTemperatureBox_->setReadOnly(!editable);
+    cookingTimeBox_->setReadOnly(!editable);
+    yieldAmountBox_->setReadOnly(!editable);
+    yieldTypeList_->lineEdit()->setReadOnly(!editable);
     if (!editable)
         closeDropLists();
 }
 
 void RecipeFieldsPanel::showNameBox(bool nameInFront)
 {
-    nameStack_->setCurrentWidget(nameInFront ? static_cast<QWidget*>(text8_) : combo2_);
+    nameStack_->setCurrentWidget(nameInFront ? static_cast<QWidget*>(nameBox_) : pickList_);
 }
 
 RecipeFields RecipeFieldsPanel::fields() const
 {
     RecipeFields fields;
     for (int row = 0; row < kRecipeRows; ++row) {
-        fields.amounts[row] = text1_[row]->text();
-        fields.units[row] = text4_[row]->text();
-        fields.ingredients[row] = text5_[row]->text();
+        fields.amounts[row] = amountBoxes_[row]->text();
+        fields.units[row] = unitBoxes_[row]->text();
+        fields.ingredients[row] = ingredientBoxes_[row]->text();
     }
-    fields.directions = StoredDirections(text2_->toPlainText());
-    fields.ovenTemperature = text3_->text();
-    fields.cookingTime = text7_->text();
-    fields.yieldAmount = text6_->text();
-    fields.yieldType = combo4_->currentText();
+    fields.directions = StoredDirections(directionsBox_->toPlainText());
+    fields.ovenTemperature = ovenTemperatureBox_->text();
+    fields.cookingTime = cookingTimeBox_->text();
+    fields.yieldAmount = yieldAmountBox_->text();
+    fields.yieldType = yieldTypeList_->currentText();
     return fields;
 }
 
 void RecipeFieldsPanel::showFields(const RecipeFields& fields, const std::array<QString, kRecipeRows>& amountTexts)
 {
     for (int row = 0; row < kRecipeRows; ++row) {
-        text4_[row]->setText(fields.units[row]);
-        text5_[row]->setText(fields.ingredients[row]);
+        unitBoxes_[row]->setText(fields.units[row]);
+        ingredientBoxes_[row]->setText(fields.ingredients[row]);
     }
     showAmounts(amountTexts);
     // Line breaks are stored as CR LF; the box keeps plain line feeds.
-    text2_->setPlainText(QString(fields.directions).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
-    text3_->setText(fields.ovenTemperature);
-    text7_->setText(fields.cookingTime);
-    text6_->setText(fields.yieldAmount);
-    combo4_->setEditText(fields.yieldType);
+    directionsBox_->setPlainText(QString(fields.directions).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    ovenTemperatureBox_->setText(fields.ovenTemperature);
+    cookingTimeBox_->setText(fields.cookingTime);
+    yieldAmountBox_->setText(fields.yieldAmount);
+    yieldTypeList_->setEditText(fields.yieldType);
 }
 
 void RecipeFieldsPanel::showAmounts(const std::array<QString, kRecipeRows>& amountTexts)
 {
     for (int row = 0; row < kRecipeRows; ++row)
-        text1_[row]->setText(amountTexts[row]);
+        amountBoxes_[row]->setText(amountTexts[row]);
 }
 
 void RecipeFieldsPanel::clearFields()
 {
     closeDropLists();
-    text8_->clear();
+    nameBox_->clear();
     for (int row = 0; row < kRecipeRows; ++row) {
-        text1_[row]->clear();
-        text4_[row]->clear();
-        text5_[row]->clear();
+        amountBoxes_[row]->clear();
+        unitBoxes_[row]->clear();
+        ingredientBoxes_[row]->clear();
     }
-    text2_->clear();
-    text3_->clear();
-    text7_->clear();
-    text6_->clear();
-    combo4_->setCurrentIndex(-1);
-    combo4_->setEditText(QString());
+    directionsBox_->clear();
+    ovenTemperatureBox_->clear();
+    cookingTimeBox_->clear();
+    yieldAmountBox_->clear();
+    yieldTypeList_->setCurrentIndex(-1);
+    yieldTypeList_->setEditText(QString());
 }
 
 void RecipeFieldsPanel::closeDropLists()
 {
-    for (DropList* list : {combo3_, combo5_, combo6_})
+    for (DropList* list : {amountDropList_, singularUnitList_, pluralUnitList_})
         list->hide();
-}
-
-bool RecipeFieldsPanel::isRecipeField(const QWidget* widget) const
-{
-    if (widget == text8_ || widget == text2_ || widget == text3_ || widget == text7_ || widget == text6_
-        || widget == combo4_ || (combo4_->lineEdit() && widget == combo4_->lineEdit()))
-        return true;
-    for (int row = 0; row < kRecipeRows; ++row) {
-        if (widget == text1_[row] || widget == text4_[row] || widget == text5_[row])
-            return true;
-    }
-    return false;
 }
 
 bool RecipeFieldsPanel::eventFilter(QObject* watched, QEvent* event)
 {
     auto* field = qobject_cast<QWidget*>(watched);
-    if (field && field == combo4_->lineEdit())
-        field = combo4_;
+    if (field && field == yieldTypeList_->lineEdit())
+        field = yieldTypeList_;
     switch (event->type()) {
     case QEvent::FocusIn: {
         const auto reason = static_cast<QFocusEvent*>(event)->reason();
-        if (field == combo4_ && watched != combo4_->lineEdit())
+        if (field == yieldTypeList_ && watched != yieldTypeList_->lineEdit())
             break; // the combo passes its focus on to its line edit
         QPalette palette = field->palette();
         palette.setColor(QPalette::Base, ColorFromColorref(QBColor(kFocusColorIndex)));
@@ -402,29 +382,29 @@ bool RecipeFieldsPanel::eventFilter(QObject* watched, QEvent* event)
         break;
     }
     case QEvent::FocusOut:
-        if (field == combo4_ && watched != combo4_->lineEdit())
+        if (field == yieldTypeList_ && watched != yieldTypeList_->lineEdit())
             break;
         field->setPalette(QPalette());
         break;
     case QEvent::KeyPress: {
         const auto* key = static_cast<QKeyEvent*>(event);
         if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
-            if (field != text2_ && field != combo1_ && field != combo2_) {
+            if (field != directionsBox_ && field != typeList_ && field != pickList_) {
                 enterPressed(field);
                 return true;
             }
         } else if (editable_ && (key->text() == u"/" || key->text() == u"\\")) {
-            for (QLineEdit* amount : text1_) {
+            for (QLineEdit* amount : amountBoxes_) {
                 if (watched == amount)
                     emit amountInstructionsWanted();
             }
         }
-        if (!editable_ && field == combo4_ && key->key() != Qt::Key_Tab && key->key() != Qt::Key_Backtab)
+        if (!editable_ && field == yieldTypeList_ && key->key() != Qt::Key_Tab && key->key() != Qt::Key_Backtab)
             return true; // the yield list does not change outside editing
         break;
     }
     case QEvent::MouseButtonPress:
-        if (!editable_ && field == combo4_ && watched == combo4_)
+        if (!editable_ && field == yieldTypeList_ && watched == yieldTypeList_)
             return true;
         break;
     default:
@@ -439,36 +419,36 @@ void RecipeFieldsPanel::fieldEntered(QWidget* field, Qt::FocusReason reason)
         return;
     if (!editable_)
         return;
-    if (field != text8_)
+    if (field != nameBox_)
         namesPanel_->hide();
-    const int amountRow = rowOf(qobject_cast<QLineEdit*>(field), text1_);
+    const int amountRow = rowOf(qobject_cast<QLineEdit*>(field), amountBoxes_);
     if (amountRow >= 0) {
-        combo3_->openOver(text1_[amountRow]);
+        amountDropList_->openOver(amountBoxes_[amountRow]);
         return;
     }
-    const int unitRow = rowOf(qobject_cast<QLineEdit*>(field), text4_);
+    const int unitRow = rowOf(qobject_cast<QLineEdit*>(field), unitBoxes_);
     if (unitRow >= 0) {
-        const QString amount = text1_[unitRow]->text();
-        (TakesPluralUnits(amount) ? combo6_ : combo5_)->openOver(text4_[unitRow]);
+        const QString amount = amountBoxes_[unitRow]->text();
+        (TakesPluralUnits(amount) ? pluralUnitList_ : singularUnitList_)->openOver(unitBoxes_[unitRow]);
     }
 }
 
 void RecipeFieldsPanel::enterPressed(QWidget* field)
 {
-    if (field == text8_) {
+    if (field == nameBox_) {
         emit nameEnterPressed();
         return;
     }
     auto* box = qobject_cast<QLineEdit*>(field);
-    if (const int row = rowOf(box, text1_); row >= 0) {
-        text4_[row]->setFocus(Qt::TabFocusReason);
-    } else if (const int unitRow = rowOf(box, text4_); unitRow >= 0) {
-        text5_[unitRow]->setFocus(Qt::TabFocusReason);
-    } else if (const int ingredientRow = rowOf(box, text5_); ingredientRow >= 0) {
+    if (const int row = rowOf(box, amountBoxes_); row >= 0) {
+        unitBoxes_[row]->setFocus(Qt::TabFocusReason);
+    } else if (const int unitRow = rowOf(box, unitBoxes_); unitRow >= 0) {
+        ingredientBoxes_[unitRow]->setFocus(Qt::TabFocusReason);
+    } else if (const int ingredientRow = rowOf(box, ingredientBoxes_); ingredientRow >= 0) {
         if (ingredientRow + 1 < kRecipeRows)
-            text1_[ingredientRow + 1]->setFocus(Qt::TabFocusReason);
+            amountBoxes_[ingredientRow + 1]->setFocus(Qt::TabFocusReason);
         else
-            text2_->setFocus(Qt::TabFocusReason);
+            directionsBox_->setFocus(Qt::TabFocusReason);
     } else {
         focusNextChild();
     }
@@ -476,7 +456,7 @@ void RecipeFieldsPanel::enterPressed(QWidget* field)
 
 void RecipeFieldsPanel::filterAmount(int row)
 {
-    QLineEdit* box = text1_[row];
+    QLineEdit* box = amountBoxes_[row];
     const QString text = box->text();
     if (!text.isEmpty() && !IsDigitOrPoint(text.back())) {
         box->setText(text.size() == 1 ? QString() : text.chopped(1));
@@ -498,38 +478,38 @@ void RecipeFieldsPanel::refuseQuote(QLineEdit* box)
 
 void RecipeFieldsPanel::showDirectionsLength()
 {
-    QString text = text2_->toPlainText();
+    QString text = directionsBox_->toPlainText();
     qsizetype length = StoredDirections(text).size();
     if (length > kDirectionsLength) {
         // The box takes no more than the record holds, line breaks counting two.
         while (StoredDirections(text).size() > kDirectionsLength)
             text.chop(1);
-        const QSignalBlocker block(text2_);
-        text2_->setPlainText(text);
-        text2_->moveCursor(QTextCursor::End);
+        const QSignalBlocker block(directionsBox_);
+        directionsBox_->setPlainText(text);
+        directionsBox_->moveCursor(QTextCursor::End);
         length = StoredDirections(text).size();
     }
-    label13_->setText(QString::number(length));
-    QPalette palette = label13_->palette();
+    directionsLength_->setText(QString::number(length));
+    QPalette palette = directionsLength_->palette();
     palette.setColor(QPalette::WindowText,
                      length > kDirectionsRedAbove ? ColorFromColorref(kRedCounter) : QColor(Qt::black));
-    label13_->setPalette(palette);
-    if (text2_->hasFocus() && editable_)
+    directionsLength_->setPalette(palette);
+    if (directionsBox_->hasFocus() && editable_)
         emit recipeEdited();
 }
 
 void RecipeFieldsPanel::dropListPicked(QLineEdit* box, int index, const QString& text)
 {
-    if (const int row = rowOf(box, text1_); row >= 0) {
+    if (const int row = rowOf(box, amountBoxes_); row >= 0) {
         const QString decimal = QString::fromLatin1(AmountPicks()[size_t(index)].decimal);
         box->setText(decimal);
         emit amountPicked(row, decimal);
         emit recipeEdited();
-        text4_[row]->setFocus(Qt::TabFocusReason);
-    } else if (const int unitRow = rowOf(box, text4_); unitRow >= 0) {
+        unitBoxes_[row]->setFocus(Qt::TabFocusReason);
+    } else if (const int unitRow = rowOf(box, unitBoxes_); unitRow >= 0) {
         box->setText(text);
         emit recipeEdited();
-        text5_[unitRow]->setFocus(Qt::TabFocusReason);
+        ingredientBoxes_[unitRow]->setFocus(Qt::TabFocusReason);
     }
 }
 

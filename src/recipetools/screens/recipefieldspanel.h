@@ -25,19 +25,19 @@ class RecipeFieldsPanel final : public QWidget {
 public:
     explicit RecipeFieldsPanel(QWidget* parent = nullptr);
 
-    QComboBox* typeList() const { return combo1_; }
-    QComboBox* pickList() const { return combo2_; }
-    QLineEdit* nameBox() const { return text8_; }
-    QLineEdit* amountBox(int row) const { return text1_[row]; }
-    QLineEdit* unitBox(int row) const { return text4_[row]; }
-    QLineEdit* ingredientBox(int row) const { return text5_[row]; }
-    QPlainTextEdit* directionsBox() const { return text2_; }
-    QLineEdit* yieldAmountBox() const { return text6_; }
-    QComboBox* yieldTypeList() const { return combo4_; }
+    QComboBox* typeList() const { return typeList_; }
+    QComboBox* pickList() const { return pickList_; }
+    QLineEdit* nameBox() const { return nameBox_; }
+    QLineEdit* amountBox(int row) const { return amountBoxes_[row]; }
+    QLineEdit* unitBox(int row) const { return unitBoxes_[row]; }
+    QLineEdit* ingredientBox(int row) const { return ingredientBoxes_[row]; }
+    QPlainTextEdit* directionsBox() const { return directionsBox_; }
+    QLineEdit* yieldAmountBox() const { return yieldAmountBox_; }
+    QComboBox* yieldTypeList() const { return yieldTypeList_; }
     QFrame* currentNamesPanel() const { return namesPanel_; }
     // Shows "Current Recipe Names" right under the name box.
     void showCurrentNames();
-    QListWidget* currentNamesList() const { return list1_; }
+    QListWidget* currentNamesList() const { return currentNamesList_; }
     // The lists show the entries' recipe names; each item keeps its whole
     // entry, record number and all, out of sight.
     void showPickEntries(const QStringList& entries);
@@ -64,8 +64,6 @@ public:
     void showAmounts(const std::array<QString, kRecipeRows>& amountTexts);
     void clearFields();
     void closeDropLists();
-    // Every field a recipe keeps, in focus order.
-    bool isRecipeField(const QWidget* widget) const;
 
 signals:
     void nameEnterPressed();
@@ -89,25 +87,25 @@ private:
     void dropListPicked(QLineEdit* box, int index, const QString& text);
     int rowOf(const QLineEdit* box, const std::array<QLineEdit*, kRecipeRows>& column) const;
 
-    QComboBox* combo1_ = nullptr;
-    QComboBox* combo2_ = nullptr;
-    QLineEdit* text8_ = nullptr;
+    QComboBox* typeList_ = nullptr;           // Combo1
+    QComboBox* pickList_ = nullptr;           // Combo2
+    QLineEdit* nameBox_ = nullptr;            // Text8
     QStackedWidget* nameStack_ = nullptr;
-    std::array<QLineEdit*, kRecipeRows> text1_{};
-    std::array<QLineEdit*, kRecipeRows> text4_{};
-    std::array<QLineEdit*, kRecipeRows> text5_{};
-    QPlainTextEdit* text2_ = nullptr;
-    QLabel* label13_ = nullptr;
-    QLineEdit* text3_ = nullptr;
-    QLineEdit* text7_ = nullptr;
-    QLineEdit* text6_ = nullptr;
-    QComboBox* combo4_ = nullptr;
+    std::array<QLineEdit*, kRecipeRows> amountBoxes_{};     // Text1
+    std::array<QLineEdit*, kRecipeRows> unitBoxes_{};       // Text4
+    std::array<QLineEdit*, kRecipeRows> ingredientBoxes_{}; // Text5
+    QPlainTextEdit* directionsBox_ = nullptr; // Text2
+    QLabel* directionsLength_ = nullptr;      // Label13
+    QLineEdit* ovenTemperatureBox_ = nullptr; // Text3
+    QLineEdit* cookingTimeBox_ = nullptr;     // Text7
+    QLineEdit* yieldAmountBox_ = nullptr;     // Text6
+    QComboBox* yieldTypeList_ = nullptr;      // Combo4
     QFrame* namesPanel_ = nullptr;
-    QListWidget* list1_ = nullptr;
+    QListWidget* currentNamesList_ = nullptr; // List1
     QList<QWidget*> frames_;
-    DropList* combo3_ = nullptr;
-    DropList* combo5_ = nullptr;
-    DropList* combo6_ = nullptr;
+    DropList* amountDropList_ = nullptr;      // Combo3
+    DropList* singularUnitList_ = nullptr;    // Combo5
+    DropList* pluralUnitList_ = nullptr;      // Combo6
     std::function<bool(QWidget*, Qt::FocusReason)> entryCheck_;
     bool editable_ = false;
     QWidget* returningFrom_ = nullptr; // a box getting the focus back from its drop list

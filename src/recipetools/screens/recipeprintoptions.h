@@ -26,7 +26,6 @@ public:
     PrintLayout layout() const;
     AmountFormat amountFormat() const;
     bool printPicture() const;
-    QPushButton* selectAdditionalButton() const { return selectAdditional_; }
     QList<QWidget*> colouredPanels() const;
 
 signals:

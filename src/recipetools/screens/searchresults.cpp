@@ -3,6 +3,7 @@
 #include "cookbook/logic/nameentry.h"
 #include "shell/kit/screenbusy.h"
 #include "shell/kit/screengrid.h"
+#include "shell/kit/raisedpanel.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -31,8 +32,8 @@ QLabel* MakeNoMatchPanel(const QString& text, QWidget* parent)
     auto* panel = new QLabel(text, parent);
     panel->setObjectName(QStringLiteral("pnlNoMatch"));
     panel->setAlignment(Qt::AlignCenter);
-    panel->setFrameStyle(QFrame::Panel | QFrame::Raised);
-    panel->setLineWidth(2);
+    MakeRaised(panel, 2);
+    panel->setAutoFillBackground(false);
     QFont bold = panel->font();
     bold.setBold(true);
     panel->setFont(bold);

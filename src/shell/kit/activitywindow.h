@@ -41,7 +41,6 @@ public:
     ~ActivityWindow() override;
 
     ScreenStatusBar* screenStatusBar() const { return statusBar_; }
-    PanelColors* panelColors() const { return panelColors_; }
     ScreenToolbars* toolbars() const { return toolbars_; }
 
     // Escape closes the first open step; with nothing open it leaves the

@@ -79,8 +79,6 @@ public:
     // The screen buttons in index order.
     QList<QPushButton*> buttons() const;
     QMenu* menu(const char* name) const;
-    const CommandSpec& commandAt(int row) const { return rows_[size_t(row)]; }
-    int rowCount() const { return int(rows_.size()); }
     // Gives a row its routine once the command is built elsewhere (the main
     // screen's activities).
     void setRoutineAt(int row, std::function<void()> run);

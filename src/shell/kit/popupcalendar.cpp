@@ -1,6 +1,7 @@
 #include "shell/kit/popupcalendar.h"
 
 #include "common/clock.h"
+#include "shell/kit/raisedpanel.h"
 
 #include <QCalendarWidget>
 #include <QKeyEvent>
@@ -10,9 +11,7 @@
 PopupCalendar::PopupCalendar(const QString& objectName, QWidget* parent) : QFrame(parent)
 {
     setObjectName(objectName);
-    setFrameStyle(QFrame::Panel | QFrame::Raised);
-    setLineWidth(2);
-    setAutoFillBackground(true);
+    MakeRaised(this, 2);
     calendar_ = new QCalendarWidget(this);
     calendar_->setObjectName(objectName + QStringLiteral("Month"));
     calendar_->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);

@@ -7,6 +7,7 @@
 #include "common/widgets/twips.h"
 #include "shell/kit/panelcolors.h"
 #include "shell/kit/screenbusy.h"
+#include "shell/kit/raisedpanel.h"
 
 #include <QImageReader>
 #include <QLabel>
@@ -38,8 +39,7 @@ BackgroundSelector::BackgroundSelector(Dialogs& dialogs, QWidget* area)
     : QFrame(area), dialogs_(dialogs), area_(area)
 {
     setObjectName(QStringLiteral("Background Selector"));
-    setFrameStyle(QFrame::Panel | QFrame::Raised);
-    setLineWidth(3);
+    MakeRaised(this, 3);
     // The panel keeps the standard label's colour, whatever the window shows.
     QPalette standard = palette();
     standard.setColor(QPalette::Window, PanelColors::systemColor());

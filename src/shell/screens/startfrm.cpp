@@ -16,6 +16,7 @@
 #include "shell/screens/screenmetrics.h"
 #include "shell/kit/screenstatusbar.h"
 #include "shell/screens/splash1.h"
+#include "shell/kit/raisedpanel.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -142,11 +143,7 @@ std::vector<CommandRow<MainCommand>> Startfrm::commandRows()
 
 void Startfrm::buildCommandPanel()
 {
-    commandPanel_ = new QFrame(central_);
-    commandPanel_->setObjectName(QStringLiteral("SSPanel1"));
-    commandPanel_->setFrameStyle(QFrame::Panel | QFrame::Raised);
-    commandPanel_->setLineWidth(3);
-    commandPanel_->setAutoFillBackground(true);
+    commandPanel_ = MakeRaisedPanel(QStringLiteral("SSPanel1"), central_, 3);
     // The panel keeps the standard colour whatever the window's background is.
     QPalette standard = QApplication::palette(commandPanel_);
     standard.setColor(QPalette::Window, standard.color(QPalette::Window)); // pinned, not inherited
@@ -157,6 +154,8 @@ void Startfrm::buildCommandPanel()
     QFont titleFont(QStringLiteral("Liberation Serif"), 30, QFont::Bold, true);
     title->setFont(titleFont);
     title->setAlignment(Qt::AlignCenter);
+    // The main screen says 6.2 while the about screen says 7.0: the two texts
+    // have always differed, and both stay as the family knows them.
     auto* version = new QLabel(QStringLiteral(" Version 6.2"), commandPanel_);
     version->setObjectName(QStringLiteral("Label2"));
     version->setFont(QFont(QStringLiteral("Liberation Serif"), 12, QFont::Bold));
