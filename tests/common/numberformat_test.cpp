@@ -379,7 +379,7 @@ QString RandomPattern(std::mt19937_64& rng)
     return out;
 }
 
-TEST(FormatFuzzTest, RandomValuesAndPatternsNeverCrash)
+TEST(FormatFuzz, RandomValuesAndPatternsNeverCrash)
 {
     const QString programPatterns[] = {
         QStringView(kWhole).toString(), QStringView(kEntry).toString(), QStringView(kResult).toString(),
@@ -405,7 +405,7 @@ TEST(FormatFuzzTest, RandomValuesAndPatternsNeverCrash)
 
 // Whole numbers in the whole-number pattern read back through the separators
 // once the commas are taken out.
-TEST(FormatFuzzTest, WholeNumbersSurviveTheSeparators)
+TEST(FormatFuzz, WholeNumbersSurviveTheSeparators)
 {
     std::mt19937_64 rng(kRandomStart);
     for (int i = 0; i < 20000; ++i) {

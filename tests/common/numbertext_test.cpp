@@ -496,7 +496,7 @@ QString RandomText(std::mt19937& rng, int maxLength)
     return out;
 }
 
-TEST(ValFuzzTest, RandomTextsNeverCrashAndStayFinite)
+TEST(ValFuzz, RandomTextsNeverCrashAndStayFinite)
 {
     std::mt19937 rng(kRandomStart);
     for (int i = 0; i < 50000; ++i) {
@@ -510,7 +510,7 @@ TEST(ValFuzzTest, RandomTextsNeverCrashAndStayFinite)
     }
 }
 
-TEST(StrFuzzTest, TextsReadBackToTheSameText)
+TEST(StrFuzz, TextsReadBackToTheSameText)
 {
     std::mt19937_64 rng(kRandomStart);
     for (int i = 0; i < 50000; ++i) {

@@ -119,7 +119,7 @@ TEST(SlotValues, TaggedKindsOtherThanThreeAndEightAreEmpty)
     EXPECT_EQ(EncodeSlotTagged(TaggedValue{}), QByteArray("\x00\x00", 2));
 }
 
-TEST(SlotValues, RandomBytesNeverCrashTheDecoders)
+TEST(SlotValuesFuzz, RandomBytesNeverCrashTheDecoders)
 {
     std::mt19937 random(1252);
     for (int round = 0; round < 2000; ++round) {

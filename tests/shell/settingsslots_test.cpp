@@ -184,7 +184,7 @@ TEST(SettingsFiles, LengthLargerThanTheSlotReadsEmpty)
     EXPECT_EQ(ReadSlotText(QORBNAME, 1), QString());
 }
 
-TEST(SettingsFiles, RandomAndTruncatedBytesNeverCrashAReader)
+TEST(SettingsFilesFuzz, RandomAndTruncatedBytesNeverCrashAReader)
 {
     TempProgramFolder folder;
     std::mt19937 random(20061);

@@ -8,9 +8,13 @@
 #include <QPointer>
 
 namespace {
+// The program's own page, unless the user has put one of that topic in the
+// program folder's Help folder: that one wins. Pages of the program come
+// with the program, so an upgrade brings their new text.
 QString TopicFile(int topic)
 {
-    return QDir(ProgramFolder()).filePath(QStringLiteral("Help/%1.html").arg(topic));
+    const QString own = QDir(ProgramFolder()).filePath(QStringLiteral("Help/%1.html").arg(topic));
+    return QFile::exists(own) ? own : QStringLiteral(":/help/%1.html").arg(topic);
 }
 } // namespace
 
@@ -44,9 +48,8 @@ void HelpWindow::load(int topic)
     const QString file = TopicFile(topic);
     if (QFile::exists(file)) {
         setSearchPaths({QFileInfo(file).path()});
-        setSource(QUrl::fromLocalFile(file));
+        setSource(file.startsWith(u':') ? QUrl(QStringLiteral("qrc") + file) : QUrl::fromLocalFile(file));
     } else {
-        setHtml(QStringLiteral("<h2>Brindlepot Help</h2><p>Help topic %1 is not installed in the "
-                               "program folder.</p>").arg(topic));
+        setHtml(QStringLiteral("<h2>Brindlepot Help</h2><p>There is no help page for topic %1.</p>").arg(topic));
     }
 }
