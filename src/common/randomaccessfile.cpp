@@ -1,5 +1,6 @@
 #include "common/randomaccessfile.h"
 
+#include "common/filewrites.h"
 #include "common/programfolder.h"
 
 RandomAccessFile::RandomAccessFile(const QString& name, int recordLength)
@@ -49,7 +50,10 @@ bool RandomAccessFile::writeRecords(qint64 firstRecord, QByteArrayView bytes)
     const qsizetype records = std::max<qsizetype>(1, (bytes.size() + recordLength_ - 1) / recordLength_);
     QByteArray block(records * recordLength_, '\0');
     std::copy(bytes.begin(), bytes.end(), block.begin());
-    if (!file_.seek((firstRecord - 1) * recordLength_))
+    if (!FileWriteSeam::allows(file_.fileName()) || !file_.seek((firstRecord - 1) * recordLength_))
         return false;
-    return file_.write(block) == block.size() && file_.flush();
+    if (file_.write(block) != block.size() || !file_.flush())
+        return false;
+    FileWriteSeam::held(file_.fileName());
+    return true;
 }

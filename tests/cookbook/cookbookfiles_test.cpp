@@ -1,3 +1,4 @@
+#include "common/filewrites.h"
 #include "cookbook/logic/cookbookfiles.h"
 #include "cookbook/logic/nameentry.h"
 
@@ -6,6 +7,8 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QDir>
+#include <QFileInfo>
 #include <gtest/gtest.h>
 
 namespace {
@@ -363,23 +366,48 @@ TEST(RebuildNameFile, AnEntryThatDoesNotFitPastTheOldEndLeavesABlankSlot)
     EXPECT_EQ(ReadNameList(1, RecipeType::Cookies).size(), 2);
 }
 
-TEST(RebuildNameFile, PendingEventsRunWhileTheFileHoldsOnlyBlanks)
+// The file goes from the old list to the new one in a single write: there is
+// no moment when it holds only blanks, and no event runs in between.
+TEST(RebuildNameFile, TheFileChangesInOneStep)
 {
     TempProgramFolder folder;
     folder.writeBytes("Cooknfil.db1", NameSlot(Entry("Oat", 3)));
-    QByteArray seenByEvent;
+    QList<QByteArray> seen;
+    FileWriteSeam::set([&](const QString&) {
+        seen << folder.bytesOf("Cooknfil.db1");
+        return true;
+    }, [&](const QString&) { seen << folder.bytesOf("Cooknfil.db1"); });
     bool ran = false;
-    QMetaObject::invokeMethod(
-        QCoreApplication::instance(),
-        [&] {
-            ran = true;
-            seenByEvent = folder.bytesOf("Cooknfil.db1");
-        },
-        Qt::QueuedConnection);
-    RebuildNameFile(1, RecipeType::Cookies, {QString::fromLatin1(Entry("Oat", 3))});
-    EXPECT_TRUE(ran);
-    EXPECT_EQ(seenByEvent, NameSlot(" ") + NameSlot(" "));
-    EXPECT_EQ(folder.bytesOf("Cooknfil.db1"), NameSlot(Entry("Oat", 3)) + NameSlot(" "));
+    QMetaObject::invokeMethod(QCoreApplication::instance(), [&] { ran = true; }, Qt::QueuedConnection);
+    const WriteOutcome outcome = RebuildNameFile(1, RecipeType::Cookies, {QString::fromLatin1(Entry("Oat", 3)),
+                                                                          QString::fromLatin1(Entry("Rye", 4))});
+    FileWriteSeam::clear();
+    EXPECT_TRUE(outcome.held());
+    EXPECT_FALSE(ran);
+    QCoreApplication::processEvents();
+    ASSERT_EQ(seen.size(), 2) << "one write, and what the file held before and after it";
+    EXPECT_EQ(seen[0], NameSlot(Entry("Oat", 3)));
+    EXPECT_EQ(seen[1], NameSlot(Entry("Oat", 3)) + NameSlot(Entry("Rye", 4)));
+}
+
+TEST(RebuildNameFile, AWriteThatFailsLeavesTheOldFileAndNamesIt)
+{
+    TempProgramFolder folder;
+    folder.writeBytes("Cooknfil.db1", NameSlot(Entry("Oat", 3)));
+    FileWriteSeam::set([](const QString&) { return false; }, {});
+    const WriteOutcome outcome = RebuildNameFile(1, RecipeType::Cookies, {}, QString::fromLatin1(Entry("Rye", 4)));
+    FileWriteSeam::clear();
+    EXPECT_FALSE(outcome.held());
+    EXPECT_TRUE(outcome.failedFile.endsWith(QStringLiteral("Cooknfil.db1")));
+    EXPECT_EQ(folder.bytesOf("Cooknfil.db1"), NameSlot(Entry("Oat", 3)));
+}
+
+TEST(RebuildNameFile, AFolderWhereTheFileShouldBeFailsTheWrite)
+{
+    TempProgramFolder folder;
+    ASSERT_TRUE(QDir().mkdir(QStringLiteral("Cooknfil.db1")));
+    EXPECT_FALSE(RebuildNameFile(1, RecipeType::Cookies, {}, QString::fromLatin1(Entry("Rye", 4))).held());
+    EXPECT_TRUE(QFileInfo(QStringLiteral("Cooknfil.db1")).isDir());
 }
 
 TEST(RebuildNameFile, EntriesWithAccentsAreWindows1252)

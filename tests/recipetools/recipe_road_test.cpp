@@ -107,7 +107,7 @@ TEST(RecipeRoad, CreateReadModifyRenameDeleteAndFillTheHole)
 
     // Rename: same slot, new entry, the list sorted and written in full.
     pickList = ChooseType(1, kType);
-    pickList = RenameRecipe(1, kType, lemonNumber, pickList, lemonIndex, "Zesty Lemon Bars");
+    pickList = RenameRecipe(1, kType, lemonNumber, pickList, lemonIndex, "Zesty Lemon Bars").pickList;
     EXPECT_EQ(pickList,
               (QStringList{EntryText("Apple Crisp", 2), EntryText("Brownies", 3), EntryText("Zesty Lemon Bars", 1)}));
     ExpectFiles(folder,
@@ -120,7 +120,7 @@ TEST(RecipeRoad, CreateReadModifyRenameDeleteAndFillTheHole)
     pickList = ChooseType(1, kType);
     const int browniesIndex = 1;
     ASSERT_EQ(RecordNumberOf(pickList[browniesIndex]), 3);
-    pickList = DeleteRecipe(1, kType, 3, pickList, browniesIndex);
+    pickList = DeleteRecipe(1, kType, 3, pickList, browniesIndex).pickList;
     EXPECT_EQ(pickList, (QStringList{EntryText("Apple Crisp", 2), EntryText("Zesty Lemon Bars", 1)}));
     ExpectFiles(folder,
                 {lemonDoubled.savedBytes() + apple.savedBytes() + ClearedSlot(),

@@ -268,15 +268,19 @@ TEST(SaveNewRecipe, TwoRecipesOfTheSameNameAreBothKept)
     EXPECT_EQ(ReadNameList(1, kType), (QStringList{EntryText("Fudge", 1), EntryText("Fudge", 2)}));
 }
 
-TEST(SaveNewRecipe, PictureOver246CharactersLeavesTheExtraSlotButSavesTheRest)
+// A path that cannot be stored would be lost without a word: the save stops
+// there, says which file, and leaves no recipe listed or used.
+TEST(SaveNewRecipe, PictureOver246CharactersStopsTheSaveAndNamesTheExtraFile)
 {
     TempProgramFolder folder;
     const SavedNewRecipe saved =
         SaveNewRecipe(1, kType, "Fudge", samples::Fudge().fields, QString(247, u'p'), {});
-    EXPECT_EQ(saved.recordNumber, 1);
-    EXPECT_EQ(folder.bytesOf("Recipe2.db1"), samples::Fudge().savedBytes());
-    EXPECT_EQ(folder.bytesOf(kNameFile), NameFile({Entry("Fudge", 1)}));
-    EXPECT_EQ(ReadRecipe(1, 1).picturePath, "");
+    EXPECT_EQ(saved.recordNumber, 0);
+    EXPECT_TRUE(saved.entry.isEmpty());
+    EXPECT_TRUE(saved.outcome.failedFile.endsWith(QStringLiteral("Recipe4.db1")));
+    EXPECT_FALSE(CookbookHasRecipes(1));
+    EXPECT_TRUE(ReadNameList(1, kType).isEmpty());
+    EXPECT_EQ(FindFreeSlot(1), 1);
 }
 
 // --- SaveExistingRecipe ----------------------------------------------------
@@ -355,7 +359,7 @@ TEST(DeleteRecipe, ClearsTheSlotAndRebuildsTheNameFileWithoutTheEntry)
         SaveNewRecipe(1, kType, "Fudge", samples::Fudge().fields, "f.jpg", {apple.entry, brownies.entry});
     const QStringList pickList = {apple.entry, brownies.entry, fudge.entry};
 
-    const QStringList after = DeleteRecipe(1, kType, brownies.recordNumber, pickList, 1);
+    const QStringList after = DeleteRecipe(1, kType, brownies.recordNumber, pickList, 1).pickList;
 
     EXPECT_EQ(after, (QStringList{apple.entry, fudge.entry}));
     EXPECT_EQ(folder.bytesOf("Recipe2.db1"),
@@ -370,7 +374,7 @@ TEST(DeleteRecipe, DeleteTheLastRecipeOfATypeLeavesBlanksOnly)
     const SavedNewRecipe fudge = SaveNewRecipe(1, kType, "Fudge", samples::Fudge().fields, {}, {});
     ASSERT_EQ(folder.bytesOf(kNameFile), NameFile({Entry("Fudge", 1)}));
 
-    const QStringList after = DeleteRecipe(1, kType, fudge.recordNumber, {fudge.entry}, 0);
+    const QStringList after = DeleteRecipe(1, kType, fudge.recordNumber, {fudge.entry}, 0).pickList;
 
     EXPECT_TRUE(after.isEmpty());
     EXPECT_EQ(folder.bytesOf(kNameFile), NameFile({" ", " "}));
@@ -385,7 +389,7 @@ TEST(DeleteRecipe, IndexOutsideTheListRemovesNothingButStillRebuilds)
 {
     TempProgramFolder folder;
     const SavedNewRecipe fudge = SaveNewRecipe(1, kType, "Fudge", samples::Fudge().fields, {}, {});
-    const QStringList after = DeleteRecipe(1, kType, fudge.recordNumber, {fudge.entry}, 5);
+    const QStringList after = DeleteRecipe(1, kType, fudge.recordNumber, {fudge.entry}, 5).pickList;
     EXPECT_EQ(after, QStringList{fudge.entry});
     EXPECT_EQ(folder.bytesOf(kNameFile), NameFile({Entry("Fudge", 1), " "}));
     EXPECT_EQ(folder.bytesOf("Recipe2.db1"), ClearedSlot());
@@ -399,7 +403,7 @@ TEST(DeleteRecipe, DeletedSlotIsTakenByTheNextNewRecipe)
         names << SaveNewRecipe(1, kType, QString("Dessert %1").arg(i), samples::Fudge().fields, {}, names).entry;
     const QByteArray before = folder.bytesOf("Recipe2.db1");
 
-    names = DeleteRecipe(1, kType, 5, names, 4);
+    names = DeleteRecipe(1, kType, 5, names, 4).pickList;
     const SavedNewRecipe saved = SaveNewRecipe(1, kType, "Lemon Bars", samples::LemonBars().fields, {}, names);
 
     EXPECT_EQ(saved.recordNumber, 5);
@@ -422,7 +426,7 @@ TEST(RenameRecipe, ReplacesTheEntryKeepsTheNumberAndSorts)
     const QByteArray extras = folder.bytesOf("Recipe4.db1");
 
     const QStringList after =
-        RenameRecipe(1, kType, apple.recordNumber, {apple.entry, brownies.entry, fudge.entry}, 0, "caramel apples");
+        RenameRecipe(1, kType, apple.recordNumber, {apple.entry, brownies.entry, fudge.entry}, 0, "caramel apples").pickList;
 
     EXPECT_EQ(after, (QStringList{brownies.entry, EntryText("caramel apples", 1), fudge.entry}));
     EXPECT_EQ(folder.bytesOf(kNameFile),
@@ -435,10 +439,10 @@ TEST(RenameRecipe, NewNameIsCutTo41AndLosesItsTrailingBlanks)
 {
     TempProgramFolder folder;
     const QString longName = "Old Fashioned Buttermilk Chocolate Sheet Cake";
-    const QStringList after = RenameRecipe(1, kType, 12, {EntryText("Cake", 12)}, 0, longName);
+    const QStringList after = RenameRecipe(1, kType, 12, {EntryText("Cake", 12)}, 0, longName).pickList;
     EXPECT_EQ(after, QStringList{longName.left(41) + Blanks(11) + "12"});
 
-    const QStringList again = RenameRecipe(1, kType, 12, after, 0, "Sheet Cake    ");
+    const QStringList again = RenameRecipe(1, kType, 12, after, 0, "Sheet Cake    ").pickList;
     EXPECT_EQ(again, QStringList{"Sheet Cake" + Blanks(42) + "12"});
     EXPECT_EQ(folder.bytesOf(kNameFile), NameFile({Entry("Sheet Cake", 12), " "}));
 }
@@ -446,7 +450,7 @@ TEST(RenameRecipe, NewNameIsCutTo41AndLosesItsTrailingBlanks)
 TEST(RenameRecipe, EmptyPickListPutsTheEntryInSlotOne)
 {
     TempProgramFolder folder;
-    const QStringList after = RenameRecipe(1, kType, 4, {}, 0, "Mousse");
+    const QStringList after = RenameRecipe(1, kType, 4, {}, 0, "Mousse").pickList;
     EXPECT_EQ(after, QStringList{EntryText("Mousse", 4)});
     EXPECT_EQ(folder.bytesOf(kNameFile), NameFile({Entry("Mousse", 4)}));
 }
@@ -456,7 +460,7 @@ TEST(RenameRecipe, EmptyNewNameChangesNothing)
     TempProgramFolder folder;
     const SavedNewRecipe fudge = SaveNewRecipe(1, kType, "Fudge", samples::Fudge().fields, {}, {});
     const QByteArray names = folder.bytesOf(kNameFile);
-    EXPECT_EQ(RenameRecipe(1, kType, fudge.recordNumber, {fudge.entry}, 0, ""), QStringList{fudge.entry});
+    EXPECT_EQ(RenameRecipe(1, kType, fudge.recordNumber, {fudge.entry}, 0, "").pickList, QStringList{fudge.entry});
     EXPECT_EQ(folder.bytesOf(kNameFile), names);
 }
 

@@ -1,9 +1,9 @@
 #include "cookbook/logic/cookbookfiles.h"
 
+#include "common/filewrites.h"
 #include "common/randomaccessfile.h"
 #include "cookbook/logic/nameentry.h"
 
-#include <QCoreApplication>
 
 namespace {
 
@@ -11,12 +11,6 @@ namespace {
 // half a megabyte, large enough that the scan costs what a plain read does.
 constexpr qint64 kRecipeScanBlock = 256;
 constexpr qint64 kNameReadBlock = 4096;
-
-void LetPendingEventsRun()
-{
-    if (QCoreApplication::instance())
-        QCoreApplication::processEvents();
-}
 
 // The first of slots 1 to 30000 (and inside the file) whose used state is
 // `used`; 0 when there is none. Only the five mark bytes of each record
@@ -52,16 +46,19 @@ StoredRecipe ReadRecipe(int cookbook, RecordNumber recordNumber)
     return stored;
 }
 
-bool WriteRecipe(int cookbook, RecordNumber recordNumber, const RecipeRecord& record,
-                 QStringView picturePath)
+WriteOutcome WriteRecipe(int cookbook, RecordNumber recordNumber, const RecipeRecord& record,
+                         QStringView picturePath)
 {
-    RandomAccessFile recipes(RecipeFileName(cookbook), RecipeRecord::kSize);
+    {
+        RandomAccessFile recipes(RecipeFileName(cookbook), RecipeRecord::kSize);
+        if (!recipes.write(recordNumber, record.toBytes()))
+            return WriteOutcome::FailedOn(RecipeFileName(cookbook));
+    }
     RandomAccessFile extras(ExtraFileName(cookbook), RecipeExtraRecord::kSize);
-    const bool recipeWritten = recipes.write(recordNumber, record.toBytes());
     RecipeExtraRecord extra;
-    const bool extraWritten =
-        extra.setPicturePath(picturePath) && extras.write(recordNumber, extra.toBytes());
-    return recipeWritten && extraWritten;
+    if (!extra.setPicturePath(picturePath) || !extras.write(recordNumber, extra.toBytes()))
+        return WriteOutcome::FailedOn(ExtraFileName(cookbook));
+    return WriteOutcome::Held();
 }
 
 RecordNumber FindFreeSlot(int cookbook)
@@ -77,7 +74,7 @@ bool CookbookHasRecipes(int cookbook)
     return FirstSlotWhoseMarkIs(cookbook, true) > 0;
 }
 
-bool ClearRecipe(int cookbook, RecordNumber recordNumber)
+WriteOutcome ClearRecipe(int cookbook, RecordNumber recordNumber)
 {
     return WriteRecipe(cookbook, recordNumber, RecipeRecord::Cleared(), {});
 }
@@ -107,19 +104,18 @@ QString ReadNameSlot(int cookbook, RecipeType type, int slot)
     return RecipeNameRecord::FromBytes(names.read(slot)).nameEntry();
 }
 
-bool RebuildNameFile(int cookbook, RecipeType type, const QStringList& entries,
-                     const QString& newEntry)
+WriteOutcome RebuildNameFile(int cookbook, RecipeType type, const QStringList& entries,
+                             const QString& newEntry)
 {
     const QString fileName = NameFileName(cookbook, type);
-    bool allWritten = true;
+    // The file as the two classic passes leave it, made whole in memory:
+    // every slot there was and one more, blank, then the entries from slot 1
+    // up to the first empty one and the new entry after them.
+    qint64 slotCount = 0;
     {
-        // Every slot there is, and one more, becomes a single blank.
-        RandomAccessFile names(fileName, RecipeNameRecord::kSize);
-        const QByteArray blank = RecipeNameRecord::Cleared().toBytes();
-        allWritten = names.writeRecords(1, blank.repeated(names.recordCount() + 1));
+        const RandomAccessFile names(fileName, RecipeNameRecord::kSize);
+        slotCount = names.recordCount() + 1;
     }
-    LetPendingEventsRun();
-    QByteArray block;
     QStringList written;
     for (const QString& entry : entries) {
         if (entry.isEmpty())
@@ -128,15 +124,16 @@ bool RebuildNameFile(int cookbook, RecipeType type, const QStringList& entries,
     }
     if (!newEntry.isEmpty())
         written << newEntry;
-    for (const QString& entry : written) {
+    slotCount = std::max<qint64>(slotCount, written.size());
+    const QByteArray blank = RecipeNameRecord::Cleared().toBytes();
+    QByteArray bytes = blank.repeated(slotCount);
+    bool allFit = true;
+    for (qsizetype i = 0; i < written.size(); ++i) {
         // An entry too long for its slot is skipped; its slot keeps the blank.
         RecipeNameRecord record = RecipeNameRecord::Cleared();
-        allWritten = record.setNameEntry(entry) && allWritten;
-        block += record.toBytes();
+        allFit = record.setNameEntry(written[i]) && allFit;
+        bytes.replace(i * RecipeNameRecord::kSize, RecipeNameRecord::kSize, record.toBytes());
     }
-    if (!block.isEmpty()) {
-        RandomAccessFile names(fileName, RecipeNameRecord::kSize);
-        allWritten = names.writeRecords(1, block) && allWritten;
-    }
-    return allWritten;
+    // One step: a crash or a full disk leaves the old file whole.
+    return WriteWholeFile(fileName, bytes) && allFit ? WriteOutcome::Held() : WriteOutcome::FailedOn(fileName);
 }

@@ -2,13 +2,13 @@
 // The record-level operations on a cookbook's files. Each one opens its
 // files, does its work and closes them again; nothing stays open between two
 // calls. A file that does not exist is created empty by opening it, reading
-// past the end gives empty values, and nothing ever shortens a file. Writes
-// that fail are skipped without a word; the bool results say whether every
-// write went through, for callers that care.
+// past the end gives empty values, and nothing ever shortens a file. Every
+// write says whether it held; a command stops at the first that did not.
 //
 // All recipes of a cookbook, of every type, share one space of slot numbers.
 // A slot is free when past the end of the recipe file or not marked used;
 // deleting leaves a hole that only FindFreeSlot fills again.
+#include "common/filewrites.h"
 #include "cookbook/logic/cookbooknames.h"
 #include "cookbook/logic/reciperecords.h"
 
@@ -29,10 +29,12 @@ struct StoredRecipe {
 // the end, or a number below 1, reads as a zero-filled record and no picture.
 StoredRecipe ReadRecipe(int cookbook, RecordNumber recordNumber);
 
-// Writes both slots, the recipe first. A picture path over 246 characters is
-// not written (the extra slot keeps what it held) and the result is false.
-bool WriteRecipe(int cookbook, RecordNumber recordNumber, const RecipeRecord& record,
-                 QStringView picturePath);
+// Writes both slots, the recipe first; when the recipe does not hold, the
+// extra slot is not touched. A picture path over 246 characters is not
+// written (the extra slot keeps what it held) and counts as a failed write of
+// the extra file.
+WriteOutcome WriteRecipe(int cookbook, RecordNumber recordNumber, const RecipeRecord& record,
+                         QStringView picturePath);
 
 // The lowest free slot (first fit), or 30001 when slots 1 to 30000 are all
 // used. Creates the recipe file when it does not exist.
@@ -43,7 +45,7 @@ bool CookbookHasRecipes(int cookbook);
 
 // Every field blank, the slot marked "****" and the picture path empty. The
 // slot stays in the file, free for the next new recipe.
-bool ClearRecipe(int cookbook, RecordNumber recordNumber);
+WriteOutcome ClearRecipe(int cookbook, RecordNumber recordNumber);
 
 // The entries of the type's name file in slot order, skipping cleared slots
 // (all blanks) wherever they lie. Creates the file when it does not exist.
@@ -54,14 +56,16 @@ QStringList ReadNameList(int cookbook, RecipeType type);
 // from "a name file of blanks" by slot 1.
 QString ReadNameSlot(int cookbook, RecipeType type, int slot);
 
-// The one way a name file changes; no entry is ever changed in place.
-//  1. Every existing slot is overwritten with a single blank, and one more
-//     blank slot is written after the last, so the file only grows.
-//  2. The file is closed and pending events run (the only yield of the
-//     cookbook operations; callers must expect re-entry here).
-//  3. `entries` go to slots 1, 2, 3 ... in order, up to the first empty one.
-//  4. A non-empty `newEntry` goes to the slot after them (slot 1 for none).
-// An entry that does not fit its slot is not written: its slot holds a
-// single blank. The result is then false.
-bool RebuildNameFile(int cookbook, RecipeType type, const QStringList& entries,
-                     const QString& newEntry = {});
+// The one way a name file changes; no entry is ever changed in place. The
+// new file holds what the classic two passes leave, byte for byte:
+//  1. every existing slot, and one more after the last, a single blank, so
+//     the file only grows;
+//  2. `entries` in slots 1, 2, 3 ... in order, up to the first empty one;
+//  3. a non-empty `newEntry` in the slot after them (slot 1 for none).
+// It is made whole in memory and replaces the old file in one step, so a
+// crash or a failed write leaves the old file as it was: no moment when the
+// type's recipes are all blanks. An entry that does not fit its slot is not
+// written: its slot holds a single blank, and the outcome names the file as
+// not written whole.
+WriteOutcome RebuildNameFile(int cookbook, RecipeType type, const QStringList& entries,
+                             const QString& newEntry = {});

@@ -36,9 +36,10 @@ int ReadCurrentCookbook()
     return int(std::nearbyint(value));
 }
 
-void WriteCurrentCookbook(int cookbook)
+WriteOutcome WriteCurrentCookbook(int cookbook)
 {
-    WriteSlotText(UnderFileName(Settings::CurrentCookbook, kCookbookMenuSpelling), Str(cookbook));
+    const SettingsSlot slot = UnderFileName(Settings::CurrentCookbook, kCookbookMenuSpelling);
+    return WriteSlotText(slot, Str(cookbook)) ? WriteOutcome::Held() : WriteOutcome::FailedOn(slot.file.name);
 }
 
 QStringList ReadCookbookTitles()
@@ -50,12 +51,16 @@ QStringList ReadCookbookTitles()
     return titles;
 }
 
-void WriteCookbookTitles(const QStringList& titles)
+WriteOutcome WriteCookbookTitles(const QStringList& titles)
 {
     // Written as typed (the fields take 30 characters); a missing title is
     // written as an empty text, so all eight slots are always written.
-    for (int i = 0; i < kCookbookCount; ++i)
-        WriteSlotText(Settings::CookbookTitles[i], titles.value(i).left(kCookbookTitleLength));
+    for (int i = 0; i < kCookbookCount; ++i) {
+        const SettingsSlot& slot = Settings::CookbookTitles[i];
+        if (!WriteSlotText(slot, titles.value(i).left(kCookbookTitleLength)))
+            return WriteOutcome::FailedOn(slot.file.name);
+    }
+    return WriteOutcome::Held();
 }
 
 QString CookbookMenuCaption(int cookbook, const QString& title)

@@ -1,6 +1,7 @@
 #include "recipetools/logic/recipelifecycle.h"
 
 #include "cookbook/logic/cookbookfiles.h"
+#include "cookbook/logic/cookbooknames.h"
 #include "cookbook/logic/nameentry.h"
 
 #include <QCoreApplication>
@@ -64,9 +65,11 @@ void SortEntries(QStringList& entries)
     });
 }
 
-bool SaveExistingRecipe(int cookbook, RecordNumber recordNumber, const RecipeFields& fields,
-                        const QString& picturePath)
+WriteOutcome SaveExistingRecipe(int cookbook, RecordNumber recordNumber, const RecipeFields& fields,
+                                const QString& picturePath)
 {
+    if (recordNumber < 1)
+        return WriteOutcome::FailedOn(RecipeFileName(cookbook));
     return WriteRecipe(cookbook, recordNumber, BuildRecipeRecord(fields), picturePath);
 }
 
@@ -80,38 +83,56 @@ SavedNewRecipe SaveNewRecipe(int cookbook, RecipeType type, const QString& name,
         return saved;
     // Recipe file and extra file first, the name file last: a failure in
     // between leaves a used slot without a name, never a name without a slot.
-    saved.recordNumber = FindFreeSlot(cookbook);
-    WriteRecipe(cookbook, saved.recordNumber, BuildRecipeRecord(fields), picturePath);
+    const RecordNumber slot = FindFreeSlot(cookbook);
+    saved.outcome = WriteRecipe(cookbook, slot, BuildRecipeRecord(fields), picturePath);
+    if (!saved.outcome.held()) {
+        // A recipe half written is no recipe: its slot is offered again.
+        ClearRecipe(cookbook, slot);
+        return saved;
+    }
     // MakeNameEntry cuts the name to 41 characters and drops trailing blanks.
-    saved.entry = MakeNameEntry(name, saved.recordNumber);
-    RebuildNameFile(cookbook, type, currentNames, saved.entry);
+    const QString entry = MakeNameEntry(name, slot);
+    saved.outcome = RebuildNameFile(cookbook, type, currentNames, entry);
+    if (!saved.outcome.held()) {
+        ClearRecipe(cookbook, slot);
+        return saved;
+    }
+    saved.recordNumber = slot;
+    saved.entry = entry;
     return saved;
 }
 
-QStringList DeleteRecipe(int cookbook, RecipeType type, RecordNumber recordNumber, QStringList pickList,
-                         int listIndex)
+ChangedNames DeleteRecipe(int cookbook, RecipeType type, RecordNumber recordNumber, QStringList pickList,
+                          int listIndex)
 {
-    ClearRecipe(cookbook, recordNumber);
-    LetPendingEventsRun();
+    ChangedNames changed{pickList, {}};
     // An index outside the list removes nothing; the name file is still
     // rebuilt, from the whole list.
     if (IsValidIndex(pickList, listIndex))
         pickList.removeAt(listIndex);
-    RebuildNameFile(cookbook, type, pickList);
-    return pickList;
+    changed.outcome = RebuildNameFile(cookbook, type, pickList);
+    if (!changed.outcome.held())
+        return changed;
+    changed.pickList = pickList;
+    LetPendingEventsRun();
+    changed.outcome = ClearRecipe(cookbook, recordNumber);
+    return changed;
 }
 
-QStringList RenameRecipe(int cookbook, RecipeType type, RecordNumber recordNumber, QStringList pickList,
-                         int listIndex, const QString& newName)
+ChangedNames RenameRecipe(int cookbook, RecipeType type, RecordNumber recordNumber, QStringList pickList,
+                          int listIndex, const QString& newName)
 {
+    ChangedNames changed{pickList, {}};
     // An empty new name is refused by the rename panel before it gets here;
     // should one arrive, nothing changes.
     if (newName.isEmpty())
-        return pickList;
+        return changed;
     if (IsValidIndex(pickList, listIndex))
         pickList.removeAt(listIndex);
     pickList.append(MakeNameEntry(newName, recordNumber));
     SortEntries(pickList);
-    RebuildNameFile(cookbook, type, pickList);
-    return pickList;
+    changed.outcome = RebuildNameFile(cookbook, type, pickList);
+    if (changed.outcome.held())
+        changed.pickList = pickList;
+    return changed;
 }

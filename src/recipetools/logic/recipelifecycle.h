@@ -4,6 +4,7 @@
 // always the recipe file, the extra file and only then the name file, so a
 // failure between them leaves a used slot without a name, never a name
 // without a slot.
+#include "common/filewrites.h"
 #include "cookbook/logic/cookbooknames.h"
 #include "cookbook/logic/reciperecords.h"
 
@@ -51,29 +52,42 @@ RecipeFields FieldsOfRecord(const RecipeRecord& record);
 void SortEntries(QStringList& entries);
 
 // An existing recipe (Modify, or after the calculator): both slots are
-// rewritten at its number; the name file is not touched.
-bool SaveExistingRecipe(int cookbook, RecordNumber recordNumber, const RecipeFields& fields,
-                        const QString& picturePath);
+// rewritten at its number; the name file is not touched. A record number
+// below 1 has no slot to go to (a name entry that points nowhere): nothing
+// is written and the outcome names the recipe file.
+WriteOutcome SaveExistingRecipe(int cookbook, RecordNumber recordNumber, const RecipeFields& fields,
+                                const QString& picturePath);
 
 struct SavedNewRecipe {
     RecordNumber recordNumber = 0;
-    QString entry;        // its NameEntry
+    QString entry;        // its NameEntry; empty when nothing was saved
+    WriteOutcome outcome;
 };
 // A new recipe: the lowest free slot, both files written there, then the
 // name file rebuilt from `currentNames` (the "Current Recipe Names" list, in
 // its order) with the new entry last. The name is cut to 41 characters and
 // its trailing blanks removed before the entry is made. An empty name writes
 // nothing and gives record number 0 and no entry.
+//
+// Each write is checked before the next: a recipe that could not be written
+// gets no name, and when the name file could not be written the slot is
+// freed again, so no list ever names a slot that holds no recipe.
 SavedNewRecipe SaveNewRecipe(int cookbook, RecipeType type, const QString& name, const RecipeFields& fields,
                              const QString& picturePath, const QStringList& currentNames);
 
-// Clears the slot, then rebuilds the name file from `pickList` without the
-// entry at `listIndex`. Returns the pick list as it now is.
-QStringList DeleteRecipe(int cookbook, RecipeType type, RecordNumber recordNumber, QStringList pickList,
-                         int listIndex);
+struct ChangedNames {
+    QStringList pickList;  // the pick list as it now is (as it was when nothing changed)
+    WriteOutcome outcome;
+};
+
+// Rebuilds the name file from `pickList` without the entry at `listIndex`,
+// then clears the slot. The name goes first: should the slot not clear, the
+// recipe is merely unlisted, never listed without its recipe.
+ChangedNames DeleteRecipe(int cookbook, RecipeType type, RecordNumber recordNumber, QStringList pickList,
+                          int listIndex);
 
 // Replaces the entry at `listIndex` by one for `newName` with the same record
-// number, sorts, and rebuilds the name file from the result. Returns it.
-// An empty new name changes nothing and gives the pick list back as it was.
-QStringList RenameRecipe(int cookbook, RecipeType type, RecordNumber recordNumber, QStringList pickList,
-                         int listIndex, const QString& newName);
+// number, sorts, and rebuilds the name file from the result. An empty new
+// name changes nothing and gives the pick list back as it was.
+ChangedNames RenameRecipe(int cookbook, RecipeType type, RecordNumber recordNumber, QStringList pickList,
+                          int listIndex, const QString& newName);

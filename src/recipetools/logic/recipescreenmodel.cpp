@@ -1,7 +1,20 @@
 #include "recipetools/logic/recipescreenmodel.h"
 
 #include "cookbook/logic/cookbookfiles.h"
+#include "common/writefailure.h"
 #include "cookbook/logic/cookbookselection.h"
+
+namespace {
+
+Message NoSlotMessage()
+{
+    return {QStringLiteral("Save"),
+            QStringLiteral("The changes to this recipe could not be saved: its name points at no place in the "
+                           "cookbook file.\nTo keep the recipe, start it anew with Create and save it there."),
+            Buttons::Ok, Icon::Exclamation, 1};
+}
+
+} // namespace
 
 void RecipeScreenModel::loadCookbook()
 {
@@ -9,21 +22,26 @@ void RecipeScreenModel::loadCookbook()
     titles_ = ReadCookbookTitles();
 }
 
-void RecipeScreenModel::selectCookbook(int cookbook)
+std::optional<Message> RecipeScreenModel::selectCookbook(int cookbook)
 {
+    if (const WriteOutcome written = WriteCurrentCookbook(cookbook); !written.held())
+        return WriteFailedMessage(written.failedFile);
     state_ = RecipeScreenState{};
     forgetRecipe();
-    WriteCurrentCookbook(cookbook);
     clearLists();
     typeName_.clear();
     currentTypeName_.clear();
     loadCookbook();
+    return std::nullopt;
 }
 
-void RecipeScreenModel::saveTitles(const QStringList& titles)
+std::optional<Message> RecipeScreenModel::saveTitles(const QStringList& titles)
 {
-    WriteCookbookTitles(titles);
+    const WriteOutcome written = WriteCookbookTitles(titles);
     loadCookbook();
+    if (!written.held())
+        return WriteFailedMessage(written.failedFile);
+    return std::nullopt;
 }
 
 void RecipeScreenModel::chooseType(const QString& typeName)
@@ -113,16 +131,33 @@ SaveOutcome RecipeScreenModel::save(const RecipeFields& typed, const QString& na
     state_.recipeChanged = false;
     RecipeFields recipe = typed;
     recipe.amounts = amountWorkList_;
+    WriteOutcome written;
     // A changed or recalculated recipe goes back to its own slot; the name
     // file is not touched.
     if (state_.mode == RecipeMode::Modify || state_.amountsRecalculated || road == SaveRoad::RecordOnly) {
-        SaveExistingRecipe(cookbook_, recordNumber_, recipe, picturePath_);
+        if (recordNumber_ < 1) {
+            // The name entry points at no slot: the recipe shown is blank and
+            // has nowhere to go back to.
+            state_.recipeChanged = true;
+            outcome.result = SaveOutcome::Result::Failed;
+            outcome.notice = NoSlotMessage();
+            return outcome;
+        }
+        written = SaveExistingRecipe(cookbook_, recordNumber_, recipe, picturePath_);
     } else {
         const std::optional<RecipeType> chosen = type();
         if (name.isEmpty() || !chosen)
             return outcome;
         const SavedNewRecipe saved = SaveNewRecipe(cookbook_, *chosen, name, recipe, picturePath_, currentNames_);
-        currentNames_.append(saved.entry);
+        written = saved.outcome;
+        if (written.held())
+            currentNames_.append(saved.entry);
+    }
+    if (!written.held()) {
+        state_.recipeChanged = true;
+        outcome.result = SaveOutcome::Result::Failed;
+        outcome.notice = WriteFailedMessage(written.failedFile);
+        return outcome;
     }
     if (road != SaveRoad::RecordOnly)
         state_.amountsRecalculated = false;
@@ -130,12 +165,18 @@ SaveOutcome RecipeScreenModel::save(const RecipeFields& typed, const QString& na
     return outcome;
 }
 
-void RecipeScreenModel::deleteRecipe()
+std::optional<Message> RecipeScreenModel::deleteRecipe()
 {
-    if (const std::optional<RecipeType> chosen = type())
-        pickEntries_ = DeleteRecipe(cookbook_, *chosen, recordNumber_, pickEntries_, listIndex_);
+    const std::optional<RecipeType> chosen = type();
+    if (!chosen)
+        return std::nullopt;
+    const ChangedNames changed = DeleteRecipe(cookbook_, *chosen, recordNumber_, pickEntries_, listIndex_);
+    pickEntries_ = changed.pickList;
+    if (!changed.outcome.held())
+        return WriteFailedMessage(changed.outcome.failedFile);
     state_ = RecipeScreenState{};
     forgetRecipe();
+    return std::nullopt;
 }
 
 RenameOutcome RecipeScreenModel::rename(const QString& newName)
@@ -148,7 +189,12 @@ RenameOutcome RecipeScreenModel::rename(const QString& newName)
                                  Icon::Information, 1};
         return outcome;
     }
-    pickEntries_ = RenameRecipe(cookbook_, *chosen, recordNumber_, pickEntries_, listIndex_, newName);
+    const ChangedNames changed = RenameRecipe(cookbook_, *chosen, recordNumber_, pickEntries_, listIndex_, newName);
+    if (!changed.outcome.held()) {
+        outcome.notice = WriteFailedMessage(changed.outcome.failedFile);
+        return outcome;
+    }
+    pickEntries_ = changed.pickList;
     currentNames_ = pickEntries_;
     outcome.renamed = true;
     return outcome;

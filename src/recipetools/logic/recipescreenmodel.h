@@ -27,6 +27,7 @@ struct SaveOutcome {
         Saved,
         Refused,         // a new recipe without a name: `notice` says so
         NothingWritten,  // a new recipe without a type
+        Failed,          // a write did not hold: `notice` names the file; the recipe stays changed
     };
     Result result = Result::NothingWritten;
     std::optional<Message> notice;
@@ -34,7 +35,7 @@ struct SaveOutcome {
 
 struct RenameOutcome {
     bool renamed = false;
-    std::optional<Message> notice;  // an empty new name
+    std::optional<Message> notice;  // an empty new name, or a name file that could not be written
 };
 
 class RecipeScreenModel {
@@ -48,9 +49,11 @@ public:
     const QStringList& titles() const { return titles_; }
     QString title(int cookbook) const { return titles_.value(cookbook - 1); }
     // Writes the new number, forgets everything of the old cookbook (no
-    // save question: what was not saved is gone) and loads again.
-    void selectCookbook(int cookbook);
-    void saveTitles(const QStringList& titles);
+    // save question: what was not saved is gone) and loads again. When the
+    // number could not be written, the message; nothing changed.
+    std::optional<Message> selectCookbook(int cookbook);
+    // The titles written and read again; the message when a slot did not hold.
+    std::optional<Message> saveTitles(const QStringList& titles);
 
     // ---- The type and its lists -----------------------------------------
     // The text of the type list; a text that names no type chooses none.
@@ -98,9 +101,11 @@ public:
     // ---- What the commands write ----------------------------------------
     // `typed` is the screen's fields; the amounts come from the work list.
     SaveOutcome save(const RecipeFields& typed, const QString& name, SaveRoad road);
-    // Clears the slot, drops the entry from the pick list and rebuilds the
-    // name file; afterwards nothing of the recipe is left.
-    void deleteRecipe();
+    // Drops the entry from the pick list, rebuilds the name file and clears
+    // the slot; afterwards nothing of the recipe is left. When a write does
+    // not hold, the message naming its file; the lists show what the files
+    // hold.
+    std::optional<Message> deleteRecipe();
     RenameOutcome rename(const QString& newName);
 
 private:

@@ -3,6 +3,7 @@
 
 #include "common/programfolder.h"
 #include "cookbook/logic/cookbookselection.h"
+#include "recipetools/screens/calculatorpanel.h"
 #include "recipetools/screens/cookbooktitlespanel.h"
 #include "recipetools/screens/recipefieldspanel.h"
 #include "shell/kit/screenstatusbar.h"
@@ -27,8 +28,17 @@ void Form5::loadCookbook()
 // No save question here: what was typed and not saved is gone.
 void Form5::selectCookbook(int cookbook)
 {
+    const bool calculatorOpen = model_.state().panel == RecipePanel::Calculator;
+    if (const std::optional<Message> failed = model_.selectCookbook(cookbook)) {
+        // The number was not written: the screen stays on its cookbook.
+        tell(*failed);
+        loadCookbook();
+        return;
+    }
+    // Nothing is left under the calculator to rescale.
+    if (calculatorOpen)
+        calculator_->hide();
     clearScreen();
-    model_.selectCookbook(cookbook);
     showLists();
     // Hits of the old cookbook would open records of the new one.
     clearSearches();
@@ -51,7 +61,11 @@ void Form5::openTitles()
 
 void Form5::saveTitles(const QStringList& titles)
 {
-    model_.saveTitles(titles);
+    if (const std::optional<Message> failed = model_.saveTitles(titles)) {
+        // The panel stays with what was typed.
+        tell(*failed);
+        return;
+    }
     closeTitles();
     loadCookbook();
     screenStatusBar()->setActivity(windowTitle());

@@ -82,6 +82,12 @@ bool Form5::save(SaveRoad road)
         tell(*outcome.notice);
         fields_->nameBox()->setFocus(Qt::OtherFocusReason);
         return false;
+    case SaveOutcome::Result::Failed:
+        // Nothing is cleared: what was typed stays, and so does the changed
+        // flag, so the next action asks again.
+        tell(*outcome.notice);
+        applyCommandStates();
+        return false;
     case SaveOutcome::Result::NothingWritten:
         return true;
     case SaveOutcome::Result::Saved:
@@ -207,7 +213,12 @@ void Form5::deleteRecipe()
         showModeCaption();
         return;
     }
-    model_.deleteRecipe();
+    if (const std::optional<Message> failed = model_.deleteRecipe()) {
+        tell(*failed);
+        showLists();
+        showModeCaption();
+        return;
+    }
     // Nothing of the deleted recipe stays in the calculator or in a search.
     calculator_->clear();
     clearSearches();
@@ -236,6 +247,8 @@ void Form5::saveRename(const QString& newName)
         outcome = model_.rename(newName);
     }
     if (!outcome.renamed) {
+        // An empty name, or a name file that could not be written: the panel
+        // stays with what was typed.
         tell(*outcome.notice);
         renamePanel_->newNameBox()->setFocus(Qt::OtherFocusReason);
         return;
