@@ -21,7 +21,10 @@ const QStringList kMarkerFiles = {
 
 QString FindCaseBlind(const QDir& dir, const QString& fileName)
 {
-    const QStringList entries = dir.entryList(QDir::Files | QDir::Hidden | QDir::System);
+    // Folders count too: a folder in a file's place is found (and fails the
+    // write loudly) rather than a second file made beside it in other case.
+    const QStringList entries =
+        dir.entryList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System);
     for (const QString& entry : entries) {
         if (entry.compare(fileName, Qt::CaseInsensitive) == 0)
             return entry;

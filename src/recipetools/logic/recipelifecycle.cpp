@@ -70,7 +70,13 @@ WriteOutcome SaveExistingRecipe(int cookbook, RecordNumber recordNumber, const R
 {
     if (recordNumber < 1)
         return WriteOutcome::FailedOn(RecipeFileName(cookbook));
-    return WriteRecipe(cookbook, recordNumber, BuildRecipeRecord(fields), picturePath);
+    const StoredRecipe before = ReadRecipe(cookbook, recordNumber);
+    const WriteOutcome outcome = WriteRecipe(cookbook, recordNumber, BuildRecipeRecord(fields), picturePath);
+    // The recipe went in but its picture path did not: the slot gets back
+    // what it held, so the saved recipe is the old one whole, not half new.
+    if (!outcome.held() && outcome.failedFile != RecipeFileName(cookbook))
+        WriteRecipe(cookbook, recordNumber, before.record, before.picturePath);
+    return outcome;
 }
 
 SavedNewRecipe SaveNewRecipe(int cookbook, RecipeType type, const QString& name, const RecipeFields& fields,

@@ -74,6 +74,7 @@ private:
 
     // The cookbook (form5cookbook.cpp).
     void loadCookbook();
+    void showCookbook();
     void selectCookbook(int cookbook);
     void openTitles();
     void saveTitles(const QStringList& titles);

@@ -17,6 +17,13 @@ void Form5::loadCookbook()
 {
     EnterProgramFolder();
     model_.loadCookbook();
+    showCookbook();
+}
+
+// The eight menu entries with their titles, the current one ticked, and the
+// window caption.
+void Form5::showCookbook()
+{
     for (int cookbook = 1; cookbook <= kCookbookCount; ++cookbook) {
         QAction* entry = commands_->action(Form5Command(int(Form5Command::Cookbook1) + cookbook - 1));
         entry->setText(CookbookMenuCaption(cookbook, model_.title(cookbook)));
@@ -32,7 +39,7 @@ void Form5::selectCookbook(int cookbook)
     if (const std::optional<Message> failed = model_.selectCookbook(cookbook)) {
         // The number was not written: the screen stays on its cookbook.
         tell(*failed);
-        loadCookbook();
+        showCookbook();
         return;
     }
     // Nothing is left under the calculator to rescale.
