@@ -4,10 +4,14 @@
 #include "shell/settings/settingsregistry.h"
 #include "temp_program_folder.h"
 #include "raw_slots.h"
+#include "scripted_dialogs.h"
 
 #include <QRadioButton>
 #include <QSignalSpy>
 #include <QTest>
+#include "common/writefailure.h"
+#include <QDir>
+#include <QFile>
 #include <gtest/gtest.h>
 
 TEST(GuideLineSlots, EachPrintingScreenHasItsSlotInGColor3)
@@ -48,7 +52,8 @@ TEST(GuideLineSlots, TheIndexIsWrittenAsText)
 TEST(GuideLineOptions, FrameAndCaptions)
 {
     TempProgramFolder folder;
-    GuideLineOptions options(Settings::Form5GuideLines);
+    ScriptedDialogs dialogs;
+    GuideLineOptions options(dialogs, Settings::Form5GuideLines);
     EXPECT_EQ(options.title(), "Display Options");
     EXPECT_EQ(options.option(0)->text(), "Do Not Display Guide Lines");
     EXPECT_EQ(options.option(1)->text(), "Display Guide Lines");
@@ -61,7 +66,8 @@ TEST(GuideLineOptions, LoadSelectsTheStoredOptionWithoutWritingIt)
     TempProgramFolder folder;
     WriteSlotText(GColor3, 50, u"1");
     const QByteArray before = folder.bytesOf("GColor3.Fil");
-    GuideLineOptions options(Settings::ShoplistGuideLines);
+    ScriptedDialogs dialogs;
+    GuideLineOptions options(dialogs, Settings::ShoplistGuideLines);
     QSignalSpy changes(&options, &GuideLineOptions::guideLinesChanged);
     options.load();
     EXPECT_TRUE(options.option(1)->isChecked());
@@ -74,7 +80,8 @@ TEST(GuideLineOptions, LoadSelectsTheStoredOptionWithoutWritingIt)
 TEST(GuideLineOptions, LoadOfAnEmptySlotSelectsNoGuideLinesAndWritesNothing)
 {
     TempProgramFolder folder;
-    GuideLineOptions options(Settings::Form24GuideLines);
+    ScriptedDialogs dialogs;
+    GuideLineOptions options(dialogs, Settings::Form24GuideLines);
     options.load();
     EXPECT_TRUE(options.option(0)->isChecked());
     EXPECT_FALSE(options.guideLinesOn());
@@ -84,7 +91,8 @@ TEST(GuideLineOptions, LoadOfAnEmptySlotSelectsNoGuideLinesAndWritesNothing)
 TEST(GuideLineOptions, AClickWritesTheIndexAndSwitchesTheGuideLines)
 {
     TempProgramFolder folder;
-    GuideLineOptions options(Settings::WeightTrackerGuideLines);
+    ScriptedDialogs dialogs;
+    GuideLineOptions options(dialogs, Settings::WeightTrackerGuideLines);
     options.load();
     options.show();
     QSignalSpy changes(&options, &GuideLineOptions::guideLinesChanged);
@@ -96,4 +104,21 @@ TEST(GuideLineOptions, AClickWritesTheIndexAndSwitchesTheGuideLines)
     EXPECT_EQ(ReadSlotText(GColor3, 80), "0");
     ASSERT_EQ(changes.count(), 2);
     EXPECT_FALSE(changes[1][0].toBool());
+}
+
+TEST(GuideLineOptions, AChoiceThatCannotBeStoredIsSaidAndStillShown)
+{
+    TempProgramFolder folder;
+    ScriptedDialogs dialogs;
+    GuideLineOptions options(dialogs, Settings::Form5GuideLines);
+    options.load();
+    QFile::remove(QStringLiteral("GColor3.Fil"));
+    ASSERT_TRUE(QDir().mkdir(QStringLiteral("GColor3.Fil")));
+    const Message failed = WriteFailedMessage(QStringLiteral("GColor3.Fil"));
+    dialogs.expectMessage(failed.title, failed.text);
+    QSignalSpy changed(&options, &GuideLineOptions::guideLinesChanged);
+    options.option(1)->click();
+    EXPECT_TRUE(dialogs.scriptDone());
+    ASSERT_EQ(changed.count(), 1);
+    EXPECT_TRUE(changed.first().first().toBool());
 }

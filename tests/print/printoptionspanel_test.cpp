@@ -23,6 +23,8 @@
 #include <QRadioButton>
 #include <QSignalSpy>
 #include <QTest>
+#include "common/writefailure.h"
+#include <QDir>
 #include <gtest/gtest.h>
 
 namespace {
@@ -308,4 +310,16 @@ TEST(PagePainter, PaintsTheTextWhereTheDocumentPutsIt)
     }
     EXPECT_GE(firstDark, 358);
     EXPECT_LE(firstDark, 366);
+}
+
+TEST_F(PanelFixture, AFontThatCannotBeStoredIsSaidAndThePanelStillCloses)
+{
+    panel->setFontSlots({Settings::ZcalandarPrintFontName, Settings::ZcalandarPrintFontSize});
+    panel->open();
+    ASSERT_TRUE(QDir().mkdir(QStringLiteral("GColor4.Fil")));
+    const Message failed = WriteFailedMessage(QStringLiteral("GColor4.Fil"));
+    dialogs.expectMessage(failed.title, failed.text);
+    panel->command(PrintOptionsPanel::kExitPrintOptions)->click();
+    EXPECT_TRUE(dialogs.scriptDone());
+    EXPECT_FALSE(panel->isVisible());
 }

@@ -23,6 +23,9 @@
 #include <QPushButton>
 #include <QSet>
 #include <QTest>
+#include "common/writefailure.h"
+#include <QDir>
+#include <QFile>
 #include <gtest/gtest.h>
 
 namespace {
@@ -436,4 +439,17 @@ TEST_F(BackgroundSelectorTest, UseAboveIsDisabledAgainWhenThePanelReopens)
     QTest::mouseClick(command(*form, 3), Qt::LeftButton);
     openSelector(*form);
     EXPECT_FALSE(command(*form, 2)->isEnabled());
+}
+
+TEST_F(BackgroundSelectorTest, ABackgroundThatCannotBeStoredIsSaidAndShownForNow)
+{
+    auto form = openMainScreen();
+    openSelector(*form);
+    QFile::remove(QStringLiteral("GQORB1.Fil"));
+    ASSERT_TRUE(QDir().mkdir(QStringLiteral("GQORB1.Fil")));
+    const Message failed = WriteFailedMessage(QStringLiteral("GQORB1.Fil"));
+    dialogs.expectMessage(failed.title, failed.text);
+    QTest::mouseClick(command(*form, 1), Qt::LeftButton);
+    EXPECT_TRUE(dialogs.scriptDone());
+    EXPECT_FALSE(selector(*form)->isOpen());
 }

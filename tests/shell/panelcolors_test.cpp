@@ -13,6 +13,9 @@
 #include <QFrame>
 #include <QGroupBox>
 #include <QRadioButton>
+#include "common/writefailure.h"
+#include <QDir>
+#include <QFile>
 #include <gtest/gtest.h>
 
 namespace {
@@ -407,4 +410,38 @@ TEST_F(PanelColorsTest, YesInTheAllScreensQuestionWritesEveryScreenAndRemembersT
     auto nextColors = colorsFor(next, Settings::ZcalandarPanelColor);
     nextColors->applyStored();
     expectAllPanels(next, kTeal);
+}
+
+TEST_F(PanelColorsTest, AColourThatCannotBeStoredIsSaid)
+{
+    TestScreen screen;
+    auto colors = colorsFor(screen);
+    colors->applyStored();
+    pick(*colors, kSilver);
+    QFile::remove(QStringLiteral("GColor1.Fil"));
+    ASSERT_TRUE(QDir().mkdir(QStringLiteral("GColor1.Fil")));
+    dialogs.expectMessage(kSaveTitle, kSaveText, Answer::Yes);
+    const Message failed = WriteFailedMessage(QStringLiteral("GColor1.Fil"));
+    dialogs.expectMessage(failed.title, failed.text);
+    colors->offerToStoreOnClose();
+    EXPECT_TRUE(dialogs.scriptDone()) << "no all-screens question after a failed store";
+    EXPECT_TRUE(colors->changed());
+}
+
+TEST_F(PanelColorsTest, AnAllScreensUpdateStopsAtTheFileThatCannotBeWritten)
+{
+    Process().LastPanelColor = QStringLiteral("Default");
+    TestScreen screen;
+    auto colors = colorsFor(screen, Settings::Form5PanelColor);
+    colors->applyStored();
+    pick(*colors, kSilver);
+    ASSERT_TRUE(QDir().mkdir(QStringLiteral("GColor3.Fil")));
+    dialogs.expectMessage(kSaveTitle, kSaveText, Answer::Yes);
+    dialogs.expectMessage(kAllTitle, kAllText, Answer::Yes);
+    const Message failed = WriteFailedMessage(QStringLiteral("GColor3.Fil"));
+    dialogs.expectMessage(failed.title, failed.text);
+    colors->offerToStoreOnClose();
+    EXPECT_TRUE(dialogs.scriptDone());
+    EXPECT_EQ(Process().LastPanelColor, "Default") << "the update did not hold";
+    EXPECT_EQ(ReadSlotText(GColor2, 25), QString::number(kSilver)) << "the screen's own slot holds";
 }

@@ -26,6 +26,8 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
+#include "common/writefailure.h"
+#include <QFile>
 #include <gtest/gtest.h>
 
 namespace {
@@ -584,4 +586,20 @@ TEST_F(StartfrmTest, EveryCommandHasItsCaptionsAndDoors)
         {"mAbout", "&About Brindlepot", "", false},
         {"mWeb", "Tollenmark on the &Web", "", false},
     });
+}
+
+// A folder in the settings file's place: the write fails for any user.
+TEST_F(StartfrmTest, AFamilyNameThatCannotBeStoredIsSaidAndTheOldNameStays)
+{
+    WriteSlotText(QORBNAME, 1, u"Smith");
+    Startfrm form(dialogs, screen);
+    QFile::remove(QStringLiteral("QORBNAME.FIL"));
+    ASSERT_TRUE(QDir().mkdir(QStringLiteral("QORBNAME.FIL")));
+    dialogs.expectInput("Family Name", "Jones");
+    const Message failed = WriteFailedMessage(QStringLiteral("QORBNAME.FIL"));
+    dialogs.expectMessage(failed.title, failed.text);
+    action(form, "mFamilyName")->trigger();
+    EXPECT_TRUE(dialogs.scriptDone());
+    EXPECT_EQ(Process().FamilyName, "Smith");
+    EXPECT_EQ(form.windowTitle(), "Smith Brindlepot");
 }

@@ -7,7 +7,7 @@ int ReadGuideLineOption(const SettingsSlot& slot)
     return Val(ReadSlotText(slot)) == kGuideLinesOn ? kGuideLinesOn : kGuideLinesOff;
 }
 
-void WriteGuideLineOption(const SettingsSlot& slot, int index)
+bool WriteGuideLineOption(const SettingsSlot& slot, int index)
 {
-    WriteSlotText(slot, QString::number(index));
+    return WriteSlotText(slot, QString::number(index));
 }

@@ -8,4 +8,5 @@ inline constexpr int kGuideLinesOn = 1;
 
 // An empty slot reads as 0; so does any text that is not the number 1.
 int ReadGuideLineOption(const SettingsSlot& slot);
-void WriteGuideLineOption(const SettingsSlot& slot, int index);
+// False when the write did not hold.
+bool WriteGuideLineOption(const SettingsSlot& slot, int index);

@@ -1,12 +1,14 @@
 #include "print/screens/guidelineoptions.h"
 
+#include "common/dialogs.h"
+#include "common/writefailure.h"
 #include "print/logic/guidelines.h"
 
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-GuideLineOptions::GuideLineOptions(const SettingsSlot& slot, QWidget* parent)
-    : QGroupBox(QStringLiteral("Display Options"), parent), slot_(slot)
+GuideLineOptions::GuideLineOptions(Dialogs& dialogs, const SettingsSlot& slot, QWidget* parent)
+    : QGroupBox(QStringLiteral("Display Options"), parent), dialogs_(dialogs), slot_(slot)
 {
     setObjectName(QStringLiteral("DisplayOptions"));
     auto* layout = new QVBoxLayout(this);
@@ -45,6 +47,9 @@ void GuideLineOptions::chosen(int index)
 {
     if (loading_)
         return;
-    WriteGuideLineOption(slot_, index);
+    // The guide lines follow the choice for the session even when it could
+    // not be stored.
+    if (!WriteGuideLineOption(slot_, index))
+        dialogs_.ask(WriteFailedMessage(slot_.file.name));
     emit guideLinesChanged(index == kGuideLinesOn);
 }

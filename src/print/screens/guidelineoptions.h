@@ -5,12 +5,13 @@
 
 #include <QGroupBox>
 
+class Dialogs;
 class QRadioButton;
 
 class GuideLineOptions final : public QGroupBox {
     Q_OBJECT
 public:
-    GuideLineOptions(const SettingsSlot& slot, QWidget* parent = nullptr);
+    GuideLineOptions(Dialogs& dialogs, const SettingsSlot& slot, QWidget* parent = nullptr);
 
     // Selects the stored option without writing it back, and tells it.
     void load();
@@ -26,6 +27,7 @@ signals:
 private:
     void chosen(int index);
 
+    Dialogs& dialogs_;
     SettingsSlot slot_;
     QRadioButton* options_[2] = {};
     bool loading_ = false;  // set while load() selects: the choice is not written

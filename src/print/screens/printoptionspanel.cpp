@@ -1,6 +1,7 @@
 #include "print/screens/printoptionspanel.h"
 
 #include "common/dialogs.h"
+#include "common/writefailure.h"
 #include "common/widgets/qtcolors.h"
 #include "common/widgets/qtfonts.h"
 #include "print/logic/pagebuilder.h"
@@ -84,7 +85,7 @@ PrintOptionsPanel::PrintOptionsPanel(Dialogs& dialogs, const QString& autoSizeTe
     }
     fontFrame_ = buildFontFrame();
     column->addWidget(fontFrame_);
-    guideLines_ = new GuideLineOptions(guideLineSlot, side_);
+    guideLines_ = new GuideLineOptions(dialogs_, guideLineSlot, side_);
     connect(guideLines_, &GuideLineOptions::guideLinesChanged, preview_, &PagePreview::setGuideLines);
     column->addWidget(guideLines_);
     optionGroups_ = new QVBoxLayout;
@@ -206,8 +207,8 @@ void PrintOptionsPanel::exitPrintOptions()
 {
     if (preview_->large())
         toggleLarge();
-    if (fontSlots_)
-        StorePrintFont(*fontSlots_, PrintFont());
+    if (fontSlots_ && !StorePrintFont(*fontSlots_, PrintFont()))
+        dialogs_.ask(WriteFailedMessage(fontSlots_->name.file.name));
     // The screen takes the keyboard back while the panel is still up, so
     // that hiding it does not pass the focus on to whatever comes next.
     emit exited();

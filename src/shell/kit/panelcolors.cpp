@@ -1,6 +1,7 @@
 #include "shell/kit/panelcolors.h"
 
 #include "common/dialogs.h"
+#include "common/writefailure.h"
 #include "common/widgets/qtcolors.h"
 #include "shell/logic/processvalues.h"
 #include "shell/kit/screenstatusbar.h"
@@ -88,14 +89,21 @@ void PanelColors::offerToStoreOnClose()
         return;
     if (dialogs_.ask(kSaveQuestion) != Answer::Yes)
         return;
-    const QString pending = StorePanelColor(slot_, isDefault_, ColorrefFromColor(color_));
+    const std::optional<QString> pending = StorePanelColor(slot_, isDefault_, ColorrefFromColor(color_));
+    if (!pending) {
+        dialogs_.ask(WriteFailedMessage(slot_.file.name));
+        return;
+    }
     changed_ = false;
-    if (!ShouldOfferToAllScreens(pending, Process().LastPanelColor))
+    if (!ShouldOfferToAllScreens(*pending, Process().LastPanelColor))
         return;
     if (dialogs_.ask(kAllScreensQuestion) != Answer::Yes)
         return;
-    WriteColorToAllScreens(pending);
-    Process().LastPanelColor = pending;
+    if (const WriteOutcome written = WriteColorToAllScreens(*pending); !written.held()) {
+        dialogs_.ask(WriteFailedMessage(written.failedFile));
+        return;
+    }
+    Process().LastPanelColor = *pending;
 }
 
 // Each panel gets the colour set on its own palette, so a panel inside

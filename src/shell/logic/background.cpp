@@ -36,19 +36,22 @@ Background ReadStoredBackground()
     return background;
 }
 
-void StoreBackground(const Background& background)
+WriteOutcome StoreBackground(const Background& background)
 {
+    TaggedValue value;
     switch (background.kind) {
     case Background::Kind::Color:
-        WriteSlotTagged(Settings::Background, background.color);
-        return;
+        value = background.color;
+        break;
     case Background::Kind::Standard:
-        WriteSlotTagged(Settings::Background, QStringLiteral("Def"));
-        return;
+        value = QStringLiteral("Def");
+        break;
     case Background::Kind::Picture:
-        WriteSlotTagged(Settings::Background, background.picture);
-        return;
+        value = background.picture;
+        break;
     }
+    return WriteSlotTagged(Settings::Background, value) ? WriteOutcome::Held()
+                                                        : WriteOutcome::FailedOn(Settings::Background.file.name);
 }
 
 QString ReadLastPanelColor()

@@ -2,6 +2,8 @@
 // The main screen's background, GQORB1.Fil slot 3 in tagged form: an integer
 // is a colour; the text "Def" is the standard colour; "WP" and a number names
 // one of the delivered pictures WP1.jpg to WP16.jpg.
+#include "common/filewrites.h"
+
 #include <QString>
 #include <QtGlobal>
 
@@ -32,7 +34,7 @@ inline constexpr int kBackgroundPictureCount = 16;
 Background ReadStoredBackground();
 // A colour as the integer kind; the standard colour as the text "Def"; a
 // picture as its name.
-void StoreBackground(const Background& background);
+WriteOutcome StoreBackground(const Background& background);
 
 // GColor1.Fil slot 49: the last all-screens panel colour, "Default" when empty.
 QString ReadLastPanelColor();

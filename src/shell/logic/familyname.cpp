@@ -7,10 +7,11 @@ QString ReadFamilyName()
     return ReadSlotText(Settings::FamilyName);
 }
 
-QString WriteFamilyName(const QString& name)
+std::optional<QString> WriteFamilyName(const QString& name)
 {
     const QString cut = name.left(kFamilyNameLength);
-    WriteSlotText(Settings::FamilyName, cut);
+    if (!WriteSlotText(Settings::FamilyName, cut))
+        return std::nullopt;
     return cut;
 }
 

@@ -28,10 +28,11 @@ bool ColorConflicts(qint32 color, qint32 panelTextColor)
     return false;
 }
 
-QString StorePanelColor(const SettingsSlot& slot, bool isDefault, qint32 color)
+std::optional<QString> StorePanelColor(const SettingsSlot& slot, bool isDefault, qint32 color)
 {
     const QString text = isDefault ? QString::fromLatin1(kDefaultColorText) : QString::number(color);
-    WriteSlotText(slot, text);
+    if (!WriteSlotText(slot, text))
+        return std::nullopt;
     return text;
 }
 
@@ -40,14 +41,16 @@ bool ShouldOfferToAllScreens(const QString& pendingColor, const QString& lastPan
     return !pendingColor.trimmed().isEmpty() && pendingColor != lastPanelColor;
 }
 
-void WriteColorToAllScreens(const QString& color)
+WriteOutcome WriteColorToAllScreens(const QString& color)
 {
     const std::span<const SettingsSlot> targets = Settings::AllScreensColorSlots();
     for (size_t i = 0; i < targets.size(); ++i) {
-        WriteSlotText(targets[i], color);
+        if (!WriteSlotText(targets[i], color))
+            return WriteOutcome::FailedOn(targets[i].file.name);
         // Each write has closed its file; between two files queued window
         // events may run.
         if (i + 1 == targets.size() || !(targets[i + 1].file == targets[i].file))
             QCoreApplication::processEvents();
     }
+    return WriteOutcome::Held();
 }

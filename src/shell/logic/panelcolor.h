@@ -1,6 +1,7 @@
 #pragma once
 // Panel colours: each screen keeps the colour of its panels in one settings
 // slot, as the word "Default" (the system's colour) or a COLORREF number.
+#include "common/filewrites.h"
 #include "shell/settings/settingsregistry.h"
 
 #include <QString>
@@ -15,13 +16,14 @@ std::optional<qint32> ReadPanelColor(const SettingsSlot& slot);
 bool ColorConflicts(qint32 color, qint32 panelTextColor);
 
 // Writes "Default" or the decimal number to the screen's slot and returns the
-// text written (the pending colour).
-QString StorePanelColor(const SettingsSlot& slot, bool isDefault, qint32 color);
+// text written (the pending colour); nothing when the write did not hold.
+std::optional<QString> StorePanelColor(const SettingsSlot& slot, bool isDefault, qint32 color);
 
 // The all-screens update is offered when the pending colour is not blank and
 // differs from the last one.
 bool ShouldOfferToAllScreens(const QString& pendingColor, const QString& lastPanelColor);
 
 // Writes the colour to every panel colour slot of every screen (GColor1.Fil,
-// then GColor2.Fil, then GColor3.Fil), letting events run between files.
-void WriteColorToAllScreens(const QString& color);
+// then GColor2.Fil, then GColor3.Fil), letting events run between files,
+// and stops at the first slot that does not hold.
+WriteOutcome WriteColorToAllScreens(const QString& color);

@@ -2,6 +2,7 @@
 
 #include "common/colors.h"
 #include "common/dialogs.h"
+#include "common/writefailure.h"
 #include "common/programfolder.h"
 #include "common/widgets/qtcolors.h"
 #include "common/widgets/twips.h"
@@ -232,7 +233,7 @@ void BackgroundSelector::selectColorBackground()
     const std::optional<qint32> color = dialogs_.chooseColor(initial);
     if (color) {
         current_ = Background::colorOf(*color);
-        StoreBackground(current_);
+        storeCurrent();
         emit backgroundChosen(current_);
     } else {
         emit previewBackground(current_);
@@ -241,10 +242,18 @@ void BackgroundSelector::selectColorBackground()
     closePanel();
 }
 
+// The chosen background shows at once; when it cannot be stored, the user
+// is told that it lasts only until the program ends.
+void BackgroundSelector::storeCurrent()
+{
+    if (const WriteOutcome written = StoreBackground(current_); !written.held())
+        dialogs_.ask(WriteFailedMessage(written.failedFile));
+}
+
 void BackgroundSelector::useDefaultBackground()
 {
     current_ = Background::standard();
-    StoreBackground(current_);
+    storeCurrent();
     emit backgroundChosen(current_);
     choice_.clear();
     closePanel();
@@ -255,7 +264,7 @@ void BackgroundSelector::useAboveBackground()
     if (choice_.isEmpty())
         return;
     current_ = Background{Background::Kind::Picture, kDefaultBackgroundColor, choice_};
-    StoreBackground(current_);
+    storeCurrent();
     emit backgroundChosen(current_);
     choice_.clear();
     closePanel();

@@ -44,6 +44,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void storeCurrent();
     void buildPanel();
     void open();
     void closePanel();

@@ -2,6 +2,7 @@
 
 #include "common/dates.h"
 #include "common/dialogs.h"
+#include "common/writefailure.h"
 #include "common/programfolder.h"
 #include "common/widgets/qtcolors.h"
 #include "common/widgets/twips.h"
@@ -361,6 +362,7 @@ void Startfrm::defaultScreenSize()
 
 void Startfrm::askFamilyName()
 {
+    const QString shown = Process().FamilyName;
     const QString stored = ReadFamilyName();
     Process().FamilyName = stored;
     QString result = dialogs_.input({QStringLiteral("Family Name"), FamilyNamePrompt(), stored});
@@ -371,7 +373,14 @@ void Startfrm::askFamilyName()
         if (answer != Answer::Yes)
             result = stored;
     }
-    Process().FamilyName = WriteFamilyName(result);
+    const std::optional<QString> written = WriteFamilyName(result);
+    if (!written) {
+        // The name shown before stays the family's name.
+        Process().FamilyName = shown;
+        dialogs_.ask(WriteFailedMessage(Settings::FamilyName.file.name));
+        return;
+    }
+    Process().FamilyName = *written;
     setWindowTitle(MainCaption(Process().FamilyName));
 }
 
