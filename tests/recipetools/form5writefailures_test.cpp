@@ -5,6 +5,7 @@
 // changes.
 #include "common/writefailure.h"
 #include "cookbook/logic/cookbookfiles.h"
+#include "cookbook/logic/nameentry.h"
 #include "form5_fixture.h"
 #include "recipetools/screens/cookbooktitlespanel.h"
 #include "recipetools/screens/renamepanel.h"
@@ -145,4 +146,27 @@ TEST_F(Form5WriteFailureTest, ACookbookThatCannotBeChosenLeavesTheScreenAsItWas)
     EXPECT_EQ(form->mode(), RecipeMode::View);
     EXPECT_EQ(fields(*form)->ingredientBox(0)->text(), "flour");
     EXPECT_EQ(form->cookbook(), 1);
+}
+
+// A name whose record number is 0 opens blank; changes to it cannot go back
+// to a slot, and the user is told instead of losing them without a word.
+TEST_F(Form5WriteFailureTest, ANameThatPointsNowhereOpensBlankAndItsChangesAreNotLostSilently)
+{
+    ASSERT_TRUE(RebuildNameFile(1, RecipeType::Stews, {MakeNameEntry(u"Lost Stew", 0)}).held());
+    auto form = open();
+    Choose(fields(*form)->typeList(), "Stews");
+    act(*form, "mView")->trigger();
+    pick(*form, "Lost Stew");
+    EXPECT_EQ(form->mode(), RecipeMode::View);
+    EXPECT_EQ(fields(*form)->ingredientBox(0)->text(), "");
+    act(*form, "mModify")->trigger();
+    QTest::keyClicks(fields(*form)->ingredientBox(0), "beef");
+    dialogs.expectMessage("Save",
+                          "The changes to this recipe could not be saved: its name points at no place in the cookbook "
+                          "file.\nTo keep the recipe, start it anew with Create and save it there.");
+    act(*form, "mSave")->trigger();
+    EXPECT_TRUE(dialogs.scriptDone());
+    EXPECT_TRUE(form->recipeChanged());
+    EXPECT_EQ(fields(*form)->ingredientBox(0)->text(), "beef");
+    EXPECT_FALSE(CookbookHasRecipes(1));
 }
