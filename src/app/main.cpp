@@ -6,6 +6,7 @@
 #include "shell/kit/qtdialogs.h"
 #include "shell/logic/deliveredfiles.h"
 #include "shell/screens/screenmetrics.h"
+#include "shell/screens/singleinstance.h"
 #include "shell/screens/startfrm.h"
 
 #include <QApplication>
@@ -18,8 +19,20 @@ int main(int argc, char** argv)
 
     InstallDeliveredFiles(ProgramFolder());
     QtDialogs dialogs;
+    SingleInstance instance(ProgramFolder());
+    switch (instance.start()) {
+    case SingleInstance::Start::First:
+        break;
+    case SingleInstance::Start::HandedOver:
+        return 0;
+    case SingleInstance::Start::AlreadyOpen:
+        dialogs.tell(QStringLiteral("Brindlepot"), SingleInstance::alreadyOpenText(ProgramFolder()),
+                     Icon::Exclamation);
+        return 1;
+    }
     SystemScreenMetrics screen;
     Startfrm startfrm(dialogs, screen);
+    QObject::connect(&instance, &SingleInstance::raiseRequested, &startfrm, &Startfrm::bringForward);
     startfrm.registerActivity(MainCommand::RecipeFiles, [&dialogs] { return new Form5(dialogs); });
     startfrm.registerActivity(MainCommand::FoodGuide, [&dialogs] { return new Foodg(dialogs); });
     startfrm.registerActivity(MainCommand::MeasGuide, [&dialogs] { return new Convform(dialogs); });

@@ -603,3 +603,20 @@ TEST_F(StartfrmTest, AFamilyNameThatCannotBeStoredIsSaidAndTheOldNameStays)
     EXPECT_EQ(Process().FamilyName, "Smith");
     EXPECT_EQ(form.windowTitle(), "Smith Brindlepot");
 }
+
+TEST_F(StartfrmTest, ASecondStartBringsTheOpenActivityForward)
+{
+    Startfrm form(dialogs, screen);
+    form.show();
+    QPointer<FakeActivity> opened;
+    form.registerActivity(MainCommand::FoodGuide, [this, &opened] { return opened = new FakeActivity(dialogs); });
+    action(form, "mFoodGuide")->trigger();
+    ASSERT_TRUE(opened);
+    QApplication::setActiveWindow(&form);
+    ASSERT_EQ(QApplication::activeWindow(), &form);
+    form.bringForward();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(opened.data()));
+    opened->close();
+    form.bringForward();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
+}

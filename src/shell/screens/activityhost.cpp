@@ -30,3 +30,8 @@ void ActivityHost::open(const Factory& factory)
         window->showMaximized();
     window->activateWindow();
 }
+
+ActivityWindow* ActivityHost::current() const
+{
+    return current_;
+}

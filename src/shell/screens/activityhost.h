@@ -20,6 +20,8 @@ public:
 
     // Opens the activity, or brings it to the front when it is open.
     void open(const Factory& factory);
+    // The activity open now, if any.
+    ActivityWindow* current() const;
 
 signals:
     void activityClosed();

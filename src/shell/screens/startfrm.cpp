@@ -17,6 +17,7 @@
 #include "shell/screens/screenmetrics.h"
 #include "shell/kit/screenstatusbar.h"
 #include "shell/screens/splash1.h"
+#include "shell/kit/activitywindow.h"
 #include "shell/kit/raisedpanel.h"
 
 #include <QApplication>
@@ -300,6 +301,18 @@ void Startfrm::updateDisplayTicks()
 void Startfrm::registerActivity(MainCommand command, ActivityHost::Factory factory)
 {
     commands_->setRoutine(command, [this, factory = std::move(factory)] { activities_->open(factory); });
+}
+
+void Startfrm::bringForward()
+{
+    // An activity that has closed may linger a moment before it is deleted.
+    ActivityWindow* activity = activities_->current();
+    QWidget* window = activity && activity->isVisible() ? static_cast<QWidget*>(activity) : this;
+    if (window->isMinimized())
+        window->showNormal();
+    window->show();
+    window->raise();
+    window->activateWindow();
 }
 
 void Startfrm::focusGained()

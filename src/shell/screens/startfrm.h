@@ -43,6 +43,10 @@ public:
     // screen; commands without one stay disabled.
     void registerActivity(MainCommand command, ActivityHost::Factory factory);
 
+    // Another start on the same data folder asked for the program: the
+    // activity open now, or else the main screen, comes to the front.
+    void bringForward();
+
 signals:
     // The user confirmed "E&xit": the window is stored, the process ends.
     void exitConfirmed();
