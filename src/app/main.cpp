@@ -5,6 +5,7 @@
 #include "recipetools/screens/form5.h"
 #include "shell/kit/qtdialogs.h"
 #include "shell/logic/deliveredfiles.h"
+#include "shell/logic/folderaccess.h"
 #include "shell/screens/screenmetrics.h"
 #include "shell/screens/singleinstance.h"
 #include "shell/screens/startfrm.h"
@@ -30,6 +31,8 @@ int main(int argc, char** argv)
                      Icon::Exclamation);
         return 1;
     }
+    if (const std::optional<Message> readOnly = ReadOnlyFolderWarning(ProgramFolder()))
+        dialogs.ask(*readOnly);
     SystemScreenMetrics screen;
     Startfrm startfrm(dialogs, screen);
     QObject::connect(&instance, &SingleInstance::raiseRequested, &startfrm, &Startfrm::bringForward);
