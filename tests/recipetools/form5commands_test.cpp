@@ -3,6 +3,7 @@
 // action; commands not built yet stay off; Escape closes the open panel
 // first.
 #include "command_doors.h"
+#include "cookbook/logic/cookbookfiles.h"
 #include "form5_fixture.h"
 #include "print/screens/printoptionspanel.h"
 
@@ -127,4 +128,28 @@ TEST_F(Form5Test, EscapeClosesTheOpenPanelBeforeItLeavesTheScreen)
 
     escape();
     EXPECT_FALSE(form->isVisible()) << "with nothing open Escape is E\u0026xit";
+}
+
+TEST_F(Form5Test, TheUsualShortcutsReachTheirCommands)
+{
+    auto form = open();
+    ShowActive(*form);
+    EXPECT_EQ(act(*form, "mCreate")->shortcut(), QKeySequence(QKeySequence::New));
+    EXPECT_EQ(act(*form, "mSave")->shortcut(), QKeySequence(QKeySequence::Save));
+    EXPECT_EQ(act(*form, "mSearch")->shortcut(), QKeySequence(QKeySequence::Find));
+    EXPECT_EQ(act(*form, "mPrint")->shortcut(), QKeySequence(QKeySequence::Print));
+    EXPECT_EQ(act(*form, "mExit")->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_W));
+    EXPECT_EQ(act(*form, "mHelp")->shortcut(), QKeySequence(Qt::Key_F1));
+
+    QTest::keyClick(form.get(), Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(form->mode(), RecipeMode::Create);
+    QTest::keyClicks(fields(*form)->nameBox(), "Beef Stew");
+    QTest::keyClick(form.get(), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(ReadNameList(1, RecipeType::AppetizersAndBeverages).size(), 1) << "saved by Ctrl+S";
+    fields(*form)->pickList()->hidePopup();
+    QTest::keyClick(form.get(), Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(form->openPanel(), RecipePanel::Search);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    QTest::keyClick(form.get(), Qt::Key_W, Qt::ControlModifier);
+    EXPECT_FALSE(form->isVisible());
 }

@@ -453,3 +453,33 @@ TEST_F(BackgroundSelectorTest, ABackgroundThatCannotBeStoredIsSaidAndShownForNow
     EXPECT_TRUE(dialogs.scriptDone());
     EXPECT_FALSE(selector(*form)->isOpen());
 }
+
+TEST_F(BackgroundSelectorTest, TheArrowKeysWalkTheThumbnailsAndEnterKeepsOne)
+{
+    auto form = openMainScreen();
+    openSelector(*form);
+    BackgroundSelector* panel = selector(*form);
+    QTest::keyClick(panel, Qt::Key_Right);
+    EXPECT_EQ(panel->choice(), "WP2");
+    QTest::keyClick(panel, Qt::Key_Down);
+    EXPECT_EQ(panel->choice(), "WP6");
+    QTest::keyClick(panel, Qt::Key_Left);
+    QTest::keyClick(panel, Qt::Key_Up);
+    QTest::keyClick(panel, Qt::Key_Up);
+    EXPECT_EQ(panel->choice(), "WP1") << "the walk stops at the first";
+    QTest::keyClick(panel, Qt::Key_Right);
+    QTest::keyClick(panel, Qt::Key_Return);
+    EXPECT_FALSE(panel->isOpen());
+    EXPECT_EQ(ReadSlotTagged(GQORB1, 3), TaggedValue(QStringLiteral("WP2")));
+}
+
+TEST_F(BackgroundSelectorTest, EscapeClosesTheSelectorBeforeItAsksToExit)
+{
+    auto form = openMainScreen();
+    openSelector(*form);
+    form->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    QTest::keyClick(form.get(), Qt::Key_Escape);
+    EXPECT_FALSE(selector(*form)->isOpen());
+    EXPECT_TRUE(dialogs.messages().isEmpty());
+}

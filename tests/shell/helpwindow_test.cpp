@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QDirIterator>
+#include <QTest>
 #include <gtest/gtest.h>
 
 TEST(HelpWindow, PagesComeFromTheProgramItself)
@@ -40,4 +41,13 @@ TEST(HelpWindow, TheDeliveredFileSetHoldsNoHelpPages)
     QDirIterator it(QStringLiteral(":/delivered"), QDirIterator::Subdirectories);
     while (it.hasNext())
         EXPECT_FALSE(it.next().contains(QStringLiteral("Help"))) << it.filePath().toStdString();
+}
+
+TEST(HelpWindow, EscapeClosesIt)
+{
+    TempProgramFolder folder;
+    HelpWindow* window = HelpWindow::showTopic(1000);
+    ASSERT_TRUE(window->isVisible());
+    QTest::keyClick(window, Qt::Key_Escape);
+    EXPECT_FALSE(window->isVisible());
 }

@@ -620,3 +620,36 @@ TEST_F(StartfrmTest, ASecondStartBringsTheOpenActivityForward)
     form.bringForward();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
 }
+
+// The "&Help" menu and the "&Help" button share Alt+H: the button wins, and
+// the menu bar opens with F10.
+TEST_F(StartfrmTest, AltHPressesTheHelpButtonAndF10OpensTheMenus)
+{
+    Startfrm form(dialogs, screen);
+    form.show();
+    form.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    QSignalSpy overview(action(form, "mOverview"), &QAction::triggered);
+    QTest::keyClick(&form, Qt::Key_H, Qt::AltModifier);
+    EXPECT_TRUE(overview.wait(1000));
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (qobject_cast<HelpWindow*>(window))
+            window->close();
+    }
+    form.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    QTest::keyClick(&form, Qt::Key_F10);
+    ASSERT_NE(form.menuBar()->activeAction(), nullptr);
+    EXPECT_EQ(form.menuBar()->activeAction()->text(), "&Options");
+}
+
+TEST_F(StartfrmTest, CtrlQAsksToExit)
+{
+    Startfrm form(dialogs, screen);
+    form.show();
+    form.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    dialogs.expectMessage("Exit", "Do you wish to Exit Brindlepot?", Answer::No);
+    QTest::keyClick(&form, Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_TRUE(dialogs.scriptDone());
+}

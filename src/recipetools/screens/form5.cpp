@@ -131,8 +131,7 @@ void Form5::applyCommandStates()
     on_ = model_.commandStates();
     commands_->refresh();
     commands_->menu("mSelectCookbook")->setEnabled(on_.cookbookMenus);
-    fields_->typeList()->setEnabled(on_.pickLists);
-    fields_->pickList()->setEnabled(on_.pickLists);
+    fields_->setListsEnabled(on_.pickLists);
 }
 
 // A panel that closes must not leave the keyboard to whatever field comes

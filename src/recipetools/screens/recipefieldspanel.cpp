@@ -297,8 +297,22 @@ void RecipeFieldsPanel::setEditable(bool editable)
         closeDropLists();
 }
 
+void RecipeFieldsPanel::setListsEnabled(bool enabled)
+{
+    // A list turned off with the keyboard in it hands the keyboard to the
+    // panel: Qt would pass it on to the next field as if the user had tabbed.
+    if (!enabled && (typeList_->hasFocus() || pickList_->hasFocus()))
+        setFocus(Qt::OtherFocusReason);
+    typeList_->setEnabled(enabled);
+    pickList_->setEnabled(enabled);
+}
+
 void RecipeFieldsPanel::showNameBox(bool nameInFront)
 {
+    // The name box going behind the list with the keyboard in it hands the
+    // keyboard to the list: Qt would pass it on as if the user had tabbed.
+    if (!nameInFront && nameBox_->hasFocus())
+        pickList_->setFocus(Qt::OtherFocusReason);
     nameStack_->setCurrentWidget(nameInFront ? static_cast<QWidget*>(nameBox_) : pickList_);
 }
 

@@ -56,6 +56,8 @@ public:
     bool editable() const { return editable_; }
     // In Create the name box lies in front of the pick list, else the list.
     void showNameBox(bool nameInFront);
+    // The type list and the recipe pick list.
+    void setListsEnabled(bool enabled);
 
     // The recipe's fields as the boxes show them. The amounts are passed
     // apart since the boxes may show fractions of the work list.

@@ -1,6 +1,7 @@
 #include "shell/kit/activitywindow.h"
 
 #include "common/dialogs.h"
+#include "shell/kit/accesskeys.h"
 #include "shell/kit/helpwindow.h"
 #include "shell/kit/panelcolors.h"
 #include "shell/kit/screenstatusbar.h"
@@ -22,6 +23,7 @@ ActivityWindow::ActivityWindow(Dialogs& dialogs, const ScreenFrame& frame, QWidg
     setStatusBar(statusBar_);
     panelColors_ = new PanelColors(dialogs_, frame.panelColor, statusBar_, this);
     toolbars_ = new ScreenToolbars(this, statusBar_, frame.topToolbarFlag);
+    new AccessKeys(this);
 }
 
 ActivityWindow::~ActivityWindow() = default;
@@ -84,8 +86,10 @@ CommandSpec ActivityWindow::helpCommand(const char* menu, const QString& caption
 
 CommandSpec ActivityWindow::exitCommand(const char* menu, const ButtonPlace& button)
 {
+    // Ctrl+W leaves a screen as in most desktop programs.
     return {.name = "mExit", .menu = menu, .caption = QStringLiteral("E&xit"), .separatorBefore = true,
-            .button = button, .toolbar = {Toolbar::Top, kExitPlace}, .run = [this] { exitScreen(); }};
+            .button = button, .toolbar = {Toolbar::Top, kExitPlace}, .run = [this] { exitScreen(); },
+            .shortcut = QKeySequence(Qt::CTRL | Qt::Key_W)};
 }
 
 void ActivityWindow::pressEscape()

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QKeyEvent>
 #include <QPointer>
 
 namespace {
@@ -40,6 +41,15 @@ HelpWindow* HelpWindow::showTopic(int topic)
     window->raise();
     window->activateWindow();
     return window;
+}
+
+void HelpWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape) {
+        close();
+        return;
+    }
+    QTextBrowser::keyPressEvent(event);
 }
 
 void HelpWindow::load(int topic)

@@ -11,6 +11,10 @@ public:
 
     int topic() const { return topic_; }
 
+protected:
+    // Escape closes the help window, as it closes every other one.
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     HelpWindow();
     void load(int topic);

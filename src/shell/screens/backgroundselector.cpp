@@ -11,9 +11,12 @@
 #include "shell/kit/raisedpanel.h"
 
 #include <QImageReader>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPushButton>
+
+#include <algorithm>
 
 namespace {
 
@@ -41,6 +44,7 @@ BackgroundSelector::BackgroundSelector(Dialogs& dialogs, QWidget* area)
 {
     setObjectName(QStringLiteral("Background Selector"));
     MakeRaised(this, 3);
+    setFocusPolicy(Qt::StrongFocus); // the arrow keys walk the thumbnails
     // The panel keeps the standard label's colour, whatever the window shows.
     QPalette standard = palette();
     standard.setColor(QPalette::Window, PanelColors::systemColor());
@@ -148,9 +152,11 @@ void BackgroundSelector::open()
         mark(number - 1);
     else
         unmark();
+    keyboardIndex_ = number > 0 ? number - 1 : 0;
     centre();
     raise();
     show();
+    setFocus(Qt::OtherFocusReason);
 }
 
 // Every way out of the panel ends here. A picture clicked but not kept
@@ -202,6 +208,7 @@ void BackgroundSelector::unmark()
 
 void BackgroundSelector::thumbnailClicked(int index)
 {
+    keyboardIndex_ = index;
     mark(index);
     useAbove_->setEnabled(true);
     choice_ = Background::pictureName(index + 1);
@@ -275,6 +282,27 @@ void BackgroundSelector::cancel()
     emit previewBackground(current_);
     choice_.clear();
     closePanel();
+}
+
+void BackgroundSelector::keyPressEvent(QKeyEvent* event)
+{
+    constexpr int kColumns = 4;
+    int index = keyboardIndex_;
+    switch (event->key()) {
+    case Qt::Key_Left: index -= 1; break;
+    case Qt::Key_Right: index += 1; break;
+    case Qt::Key_Up: index -= kColumns; break;
+    case Qt::Key_Down: index += kColumns; break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        useAboveBackground();
+        return;
+    default:
+        QFrame::keyPressEvent(event);
+        return;
+    }
+    keyboardIndex_ = std::clamp(index, 0, kThumbnailCount - 1);
+    thumbnailClicked(keyboardIndex_);
 }
 
 bool BackgroundSelector::eventFilter(QObject* watched, QEvent* event)

@@ -27,6 +27,8 @@ public:
     // closes it when it is open.
     void toggle(const Background& current);
     bool isOpen() const { return !isHidden(); }
+    // "&Cancel", and Escape while the panel is open.
+    void cancel();
 
     QLabel* thumbnail(int index) const;
     // The frame that marks the chosen picture.
@@ -42,6 +44,9 @@ signals:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    // The arrow keys walk the thumbnails as clicks would; Enter keeps the
+    // one shown, as "Use &Above Background" does.
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void storeCurrent();
@@ -60,7 +65,6 @@ private:
     void selectColorBackground();
     void useDefaultBackground();
     void useAboveBackground();
-    void cancel();
 
     Dialogs& dialogs_;
     QWidget* area_;
@@ -69,4 +73,5 @@ private:
     QLabel* thumbnails_[kThumbnailCount] = {};
     QFrame* marker_ = nullptr;
     QPushButton* useAbove_ = nullptr;
+    int keyboardIndex_ = 0;   // the thumbnail the arrow keys stand on
 };

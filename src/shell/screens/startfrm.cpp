@@ -17,6 +17,7 @@
 #include "shell/screens/screenmetrics.h"
 #include "shell/kit/screenstatusbar.h"
 #include "shell/screens/splash1.h"
+#include "shell/kit/accesskeys.h"
 #include "shell/kit/activitywindow.h"
 #include "shell/kit/raisedpanel.h"
 
@@ -79,6 +80,7 @@ Startfrm::Startfrm(Dialogs& dialogs, const ScreenMetrics& screen, QWidget* paren
     statusBar_->setActivity(QStringLiteral("Main Menu"));
     setStatusBar(statusBar_);
 
+    new AccessKeys(this);
     activities_ = new ActivityHost(this);
     connect(activities_, &ActivityHost::activityClosed, this, &Startfrm::focusGained);
     buildCommandPanel();
@@ -92,7 +94,13 @@ Startfrm::Startfrm(Dialogs& dialogs, const ScreenMetrics& screen, QWidget* paren
     connect(backgroundSelector_, &BackgroundSelector::activityChanged, statusBar_, &ScreenStatusBar::setActivity);
 
     auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
-    connect(escape, &QShortcut::activated, this, &Startfrm::exitProgram);
+    // Escape closes the background selector first, then it is "E&xit".
+    connect(escape, &QShortcut::activated, this, [this] {
+        if (backgroundSelector_->isOpen())
+            backgroundSelector_->cancel();
+        else
+            exitProgram();
+    });
     auto* f1 = new QShortcut(QKeySequence(Qt::Key_F1), this);
     connect(f1, &QShortcut::activated, this, [this] {
         showHelp(backgroundSelector_->isOpen() ? BackgroundSelector::kHelpTopic : kOverviewTopic);
@@ -117,7 +125,8 @@ std::vector<CommandRow<MainCommand>> Startfrm::commandRows()
         {FamilyName, {.name = "mFamilyName", .menu = "mOptions", .caption = "&Family Name", .separatorBefore = true,
                       .run = [this] { askFamilyName(); }}},
         {Exit, {.name = "mExit", .menu = "mOptions", .caption = "E&xit", .separatorBefore = true,
-                .button = {"E&xit", 7}, .run = [this] { exitProgram(); }}},
+                .button = {"E&xit", 7}, .run = [this] { exitProgram(); },
+                .shortcut = QKeySequence(Qt::CTRL | Qt::Key_Q)}},
         {RecipeFiles, {.name = "mRecipeFiles", .menu = "mBrindlepot", .caption = "&Recipe Files",
                        .button = {"&Recipe File", 0}}},
         {FoodGuide, {.name = "mFoodGuide", .menu = "mBrindlepot", .caption = "&Food Guide",
