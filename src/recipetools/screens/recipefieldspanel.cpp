@@ -7,6 +7,7 @@
 #include "recipetools/logic/amountformat.h"
 #include "recipetools/logic/recipewords.h"
 #include "shell/kit/droplist.h"
+#include "shell/kit/focuscolour.h"
 #include "shell/kit/raisedpanel.h"
 
 #include <QComboBox>
@@ -386,9 +387,7 @@ bool RecipeFieldsPanel::eventFilter(QObject* watched, QEvent* event)
         const auto reason = static_cast<QFocusEvent*>(event)->reason();
         if (field == yieldTypeList_ && watched != yieldTypeList_->lineEdit())
             break; // the combo passes its focus on to its line edit
-        QPalette palette = field->palette();
-        palette.setColor(QPalette::Base, ColorFromColorref(QBColor(kFocusColorIndex)));
-        field->setPalette(palette);
+        ShowFocusColour(field);
         // Coming back from another window or from a drop list is no new entry.
         if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason && field != returningFrom_)
             fieldEntered(field, reason);
@@ -398,7 +397,7 @@ bool RecipeFieldsPanel::eventFilter(QObject* watched, QEvent* event)
     case QEvent::FocusOut:
         if (field == yieldTypeList_ && watched != yieldTypeList_->lineEdit())
             break;
-        field->setPalette(QPalette());
+        ClearFocusColour(field);
         break;
     case QEvent::KeyPress: {
         const auto* key = static_cast<QKeyEvent*>(event);
@@ -506,7 +505,8 @@ void RecipeFieldsPanel::showDirectionsLength()
     directionsLength_->setText(QString::number(length));
     QPalette palette = directionsLength_->palette();
     palette.setColor(QPalette::WindowText,
-                     length > kDirectionsRedAbove ? ColorFromColorref(kRedCounter) : QColor(Qt::black));
+                     length > kDirectionsRedAbove ? ColorFromColorref(kRedCounter)
+                                                  : QPalette().color(QPalette::WindowText));
     directionsLength_->setPalette(palette);
     if (directionsBox_->hasFocus() && editable_)
         emit recipeEdited();
