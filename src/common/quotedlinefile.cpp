@@ -2,9 +2,9 @@
 
 #include "common/cp1252.h"
 #include "common/programfolder.h"
+#include "common/wholefile.h"
 
 #include <QFile>
-#include <QSaveFile>
 
 namespace {
 
@@ -93,16 +93,5 @@ QStringList ReadQuotedLineFile(const QString& name)
 
 bool WriteQuotedLineFile(const QString& name, const QStringList& values)
 {
-    QSaveFile file(ResolveFileName(name));
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    const QByteArray bytes = EncodeQuotedLines(values);
-    // The explicit flush matters: a write that fails while the buffer is
-    // flushed inside commit() does not always make commit() return false,
-    // and the cut-off content would replace the old file.
-    if (file.write(bytes) != bytes.size() || !file.flush() || file.error() != QFileDevice::NoError) {
-        file.cancelWriting();
-        return false;
-    }
-    return file.commit();
+    return WriteWholeFile(ResolveFileName(name), EncodeQuotedLines(values));
 }
