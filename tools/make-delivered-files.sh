@@ -5,7 +5,8 @@
 # Everything is drawn with ImageMagick 6 from nothing but this script: the
 # textures come from a fixed hash of the pixel position (no random source),
 # so two runs give the same pictures. The help pages and the meal lists in
-# resources/delivered are written by hand and are not touched here.
+# resources/delivered are written by hand and are not touched here; the food
+# storage files come from tools/make-storage-files.py.
 #
 # Usage: tools/make-delivered-files.sh [only...]
 #   With no argument every picture is made; otherwise only the named ones,

@@ -9,6 +9,7 @@
 #include "shell/screens/screenmetrics.h"
 #include "shell/screens/singleinstance.h"
 #include "shell/screens/startfrm.h"
+#include "storage/screens/form24.h"
 
 #include <QApplication>
 
@@ -39,6 +40,8 @@ int main(int argc, char** argv)
     startfrm.registerActivity(MainCommand::RecipeFiles, [&dialogs] { return new Form5(dialogs); });
     startfrm.registerActivity(MainCommand::FoodGuide, [&dialogs] { return new Foodg(dialogs); });
     startfrm.registerActivity(MainCommand::MeasGuide, [&dialogs] { return new Convform(dialogs); });
+    startfrm.registerActivity(MainCommand::Emergency,
+                              [&dialogs] { return new Form24(dialogs, StorageKind::Emergency); });
     QObject::connect(&startfrm, &Startfrm::exitConfirmed, &app, [] { QApplication::exit(0); });
     startfrm.show();
     return app.exec();

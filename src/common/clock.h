@@ -23,3 +23,10 @@ public:
 private:
     QDateTime at_;
 };
+
+// The clock of the running program, for screens until a test gives theirs.
+inline const Clock& SystemTime()
+{
+    static const SystemClock clock;
+    return clock;
+}

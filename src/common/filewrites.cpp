@@ -37,7 +37,11 @@ void SyncFolderOf(const QString& path)
 
 bool WriteWholeFile(const QString& name, QByteArrayView bytes)
 {
-    const QString path = ResolveFileName(name);
+    return WriteWholeFileAt(ResolveFileName(name), bytes);
+}
+
+bool WriteWholeFileAt(const QString& path, QByteArrayView bytes)
+{
     if (!FileWriteSeam::allows(path))
         return false;
     QSaveFile file(path);

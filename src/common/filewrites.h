@@ -30,6 +30,8 @@ struct WriteOutcome {
 // The whole file `name` (resolved case-blind) becomes `bytes`. False, and the
 // old file as it was, when anything failed.
 bool WriteWholeFile(const QString& name, QByteArrayView bytes);
+// The same for a path the user chose, used exactly as given.
+bool WriteWholeFileAt(const QString& path, QByteArrayView bytes);
 
 namespace FileWriteSeam {
 // Asked before each write with the file's name; false makes the write fail

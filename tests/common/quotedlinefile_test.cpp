@@ -1,14 +1,13 @@
 #include "common/quotedlinefile.h"
 
+#include "file_size_limit.h"
 #include "temp_program_folder.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <gtest/gtest.h>
-#include <csignal>
 #include <random>
-#include <sys/resource.h>
 
 namespace {
 
@@ -154,15 +153,12 @@ TEST_F(QuotedFile, NamesAreCaseBlind)
 TEST_F(QuotedFile, FailedWriteLeavesTheOldFile)
 {
     folder.writeBytes("EmerE1.Fil", "\"old\"\r\n");
-    rlimit previous{};
-    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &previous), 0);
-    rlimit small = previous;
-    small.rlim_cur = 16;
-    const auto previousHandler = std::signal(SIGXFSZ, SIG_IGN);
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
-    const bool saved = WriteQuotedLineFile("EmerE1.Fil", {QString(100, u'x'), QString(100, u'y')});
-    setrlimit(RLIMIT_FSIZE, &previous);
-    std::signal(SIGXFSZ, previousHandler);
+    bool saved = true;
+    {
+        const FileSizeLimit limit(16);
+        ASSERT_TRUE(limit.active());
+        saved = WriteQuotedLineFile("EmerE1.Fil", {QString(100, u'x'), QString(100, u'y')});
+    }
     EXPECT_FALSE(saved);
     EXPECT_EQ(folder.bytesOf("EmerE1.Fil"), QByteArray("\"old\"\r\n"));
     EXPECT_EQ(QDir(".").entryList(QDir::Files), QStringList({"EmerE1.Fil"}));

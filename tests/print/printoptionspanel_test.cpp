@@ -10,6 +10,7 @@
 #include "print/screens/printoptionspanel.h"
 #include "shell/settings/settingsregistry.h"
 
+#include "fit_check.h"
 #include "pdf_text.h"
 #include "scripted_dialogs.h"
 #include "temp_program_folder.h"
@@ -21,6 +22,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
+#include <QVBoxLayout>
 #include <QSignalSpy>
 #include <QTest>
 #include "common/writefailure.h"
@@ -283,6 +286,28 @@ TEST_F(PanelFixture, PreviewStepsThroughThePages)
     // A recomposed document keeps the page in view.
     panel->recompose();
     EXPECT_EQ(panel->preview()->currentPage(), 1);
+}
+
+// A screen's tall option groups on a small screen: the side column scrolls
+// rather than squeezing its controls, and the preview keeps its page buttons.
+TEST_F(PanelFixture, OnASmallScreenTheOptionColumnScrollsAndNothingIsSqueezed)
+{
+    auto* group = new QWidget;
+    auto* rows = new QVBoxLayout(group);
+    for (int i = 0; i < 12; ++i)
+        rows->addWidget(new QRadioButton(QStringLiteral("A long choice of the screen's own, number %1").arg(i)));
+    panel->addOptionGroup(group);
+    screen.resize(760, 480);
+    panel->setGeometry(screen.rect());
+    panel->open();
+    QApplication::processEvents();
+    EXPECT_EQ(FitProblems(&screen).join(u'\n').toStdString(), "");
+    auto* scroll = panel->findChild<QScrollArea*>("PrintOptionsScroll");
+    ASSERT_NE(scroll, nullptr);
+    EXPECT_TRUE(scroll->isAncestorOf(group));
+    EXPECT_GE(scroll->width(), group->minimumSizeHint().width()) << "never narrower than its widest control";
+    panel->toggleLarge();
+    EXPECT_FALSE(scroll->isVisible()) << "the large view hides the column";
 }
 
 TEST(PagePainter, PaintsTheTextWhereTheDocumentPutsIt)

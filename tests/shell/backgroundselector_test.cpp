@@ -483,3 +483,25 @@ TEST_F(BackgroundSelectorTest, EscapeClosesTheSelectorBeforeItAsksToExit)
     EXPECT_FALSE(selector(*form)->isOpen());
     EXPECT_TRUE(dialogs.messages().isEmpty());
 }
+
+TEST_F(BackgroundSelectorTest, AScreensOwnStoreTakesTheChoiceAndTheMainBackgroundStays)
+{
+    QWidget area;
+    area.resize(1000, 800);
+    BackgroundSelector panel(dialogs, &area);
+    QList<Background> stored;
+    panel.setStore([&stored](const Background& chosen) {
+        stored.append(chosen);
+        return WriteOutcome::Held();
+    });
+    QList<Background> chosen;
+    QObject::connect(&panel, &BackgroundSelector::backgroundChosen, [&chosen](const Background& b) { chosen << b; });
+    panel.toggle(Background::standard());
+    QTest::mouseClick(panel.thumbnail(4), Qt::LeftButton);
+    QTest::mouseClick(panel.findChild<QPushButton*>("Command2_2"), Qt::LeftButton);
+    panel.toggle(Background::pictureOf(5));
+    QTest::mouseClick(panel.findChild<QPushButton*>("Command2_1"), Qt::LeftButton);
+    EXPECT_EQ(stored, QList<Background>({Background::pictureOf(5), Background::standard()}));
+    EXPECT_EQ(chosen, stored);
+    EXPECT_EQ(folder.bytesOf("GQORB1.Fil"), QByteArray()) << "the main background is not touched";
+}

@@ -160,3 +160,31 @@ TEST_F(TableScreen, ShortcutsServeTheCommand)
     QTest::keyClick(&window, Qt::Key_W, Qt::ControlModifier);
     EXPECT_EQ(exited, 1);
 }
+
+TEST(CommandTableMenuBar, ATitleThatIsACommandStandsOnTheBarInItsPlace)
+{
+    enum class Bar { Copy, Rollup, About };
+    static constexpr MenuRow kMenus[] = {
+        {"mEdit", "&Edit"},
+        {"mRollup", "&Rollup", nullptr, false, true},
+        {"mHelpMenu", "&Help"},
+    };
+    int rolledUp = 0;
+    const CommandRow<Bar> rows[] = {
+        {Bar::Copy, {.name = "mCopy", .menu = "mEdit", .caption = "&Copy", .run = [] {}}},
+        {Bar::About, {.name = "mAbout", .menu = "mHelpMenu", .caption = "&About", .run = [] {}}},
+        {Bar::Rollup, {.name = "mRollup", .menu = "mRollup", .caption = "&Rollup", .run = [&rolledUp] { ++rolledUp; }}},
+    };
+    QMainWindow window;
+    CommandTable<Bar> table(&window, kMenus, rows, nullptr, nullptr);
+    QStringList titles;
+    for (const QAction* action : window.menuBar()->actions())
+        titles << action->text();
+    EXPECT_EQ(titles, QStringList({"&Edit", "&Rollup", "&Help"}));
+    QAction* rollup = table.action(Bar::Rollup);
+    EXPECT_EQ(window.menuBar()->actions().at(1), rollup);
+    EXPECT_EQ(rollup->menu(), nullptr) << "a command, not a menu";
+    EXPECT_EQ(table.menu("mRollup"), nullptr);
+    rollup->trigger();
+    EXPECT_EQ(rolledUp, 1);
+}

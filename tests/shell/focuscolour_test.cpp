@@ -6,6 +6,9 @@
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QTest>
+#include <QVBoxLayout>
+#include <QWidget>
 #include <gtest/gtest.h>
 
 TEST(FocusColour, YellowWithDarkTextEvenOnADarkDesktop)
@@ -23,4 +26,29 @@ TEST(FocusColour, YellowWithDarkTextEvenOnADarkDesktop)
     EXPECT_EQ(box.palette().color(QPalette::Base), QColor(30, 30, 30));
     EXPECT_EQ(box.palette().color(QPalette::Text), QColor(230, 230, 230));
     QApplication::setPalette(before);
+}
+
+TEST(FocusColour, AFieldIsYellowWhileItHasTheKeyboardOnly)
+{
+    QWidget window;
+    auto* layout = new QVBoxLayout(&window);
+    auto* field = new QLineEdit(&window);
+    auto* other = new QLineEdit(&window);
+    layout->addWidget(field);
+    layout->addWidget(other);
+    ShowFocusColourWhileFocused(field);
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    other->setFocus(Qt::OtherFocusReason);
+    QApplication::processEvents();
+    const QColor plain = field->palette().color(QPalette::Base);
+    ASSERT_NE(plain, ColorFromColorref(QBColor(14)));
+    field->setFocus(Qt::OtherFocusReason);
+    QApplication::processEvents();
+    EXPECT_EQ(field->palette().color(QPalette::Base), ColorFromColorref(QBColor(14)));
+    other->setFocus(Qt::TabFocusReason);
+    QApplication::processEvents();
+    EXPECT_EQ(field->palette().color(QPalette::Base), plain);
+    EXPECT_NE(other->palette().color(QPalette::Base), ColorFromColorref(QBColor(14))) << "only the field asked for";
 }

@@ -59,3 +59,16 @@ TEST(GridColors, TheSharedPairIsGColor1Slots28And29)
     EXPECT_EQ(colors.textColor, 65535);
     EXPECT_EQ(ReadGridColors(RawSlot(GColor1, 71), RawSlot(GColor1, 72)), GridColors{}) << "a screen's own empty pair";
 }
+
+TEST(GridColors, TheSelectorsChoiceIsStoredAsTheSlotReadsIt)
+{
+    EXPECT_EQ(GridBackgroundText(Background::pictureOf(7)), "WP7");
+    EXPECT_EQ(GridBackgroundText(Background::colorOf(65280)), "65280");
+    EXPECT_EQ(GridBackgroundText(Background::standard()), "Default");
+    EXPECT_EQ(GridBackgroundOf(u"WP7"), Background::pictureOf(7));
+    EXPECT_EQ(GridBackgroundOf(u"65280"), Background::colorOf(65280));
+    EXPECT_EQ(GridBackgroundOf(u"Default"), Background::standard());
+    EXPECT_EQ(GridBackgroundOf(u""), Background::standard());
+    for (const Background& chosen : {Background::pictureOf(16), Background::colorOf(0), Background::standard()})
+        EXPECT_EQ(GridBackgroundOf(GridBackgroundText(chosen)), chosen);
+}

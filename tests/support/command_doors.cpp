@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QMainWindow>
 #include <QMenu>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QToolBar>
 #include <QToolButton>
@@ -31,7 +32,7 @@ QToolButton* ToolButtonOf(QMainWindow& window, QAction* action)
 bool InAMenu(QAction* action)
 {
     for (QObject* owner : action->associatedObjects()) {
-        if (qobject_cast<QMenu*>(owner))
+        if (qobject_cast<QMenu*>(owner) || qobject_cast<QMenuBar*>(owner))
             return true;
     }
     return false;

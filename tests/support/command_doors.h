@@ -10,7 +10,7 @@ class QMainWindow;
 
 struct CommandDoors {
     QString command;         // the action's objectName
-    QString menuCaption;     // empty: no menu entry
+    QString menuCaption;     // empty: no menu entry (a menu bar title that is a command counts)
     QString buttonCaption;   // empty: no screen button
     bool onToolbar = false;
 };

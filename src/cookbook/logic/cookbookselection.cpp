@@ -39,7 +39,7 @@ int ReadCurrentCookbook()
 WriteOutcome WriteCurrentCookbook(int cookbook)
 {
     const SettingsSlot slot = UnderFileName(Settings::CurrentCookbook, kCookbookMenuSpelling);
-    return WriteSlotText(slot, Str(cookbook)) ? WriteOutcome::Held() : WriteOutcome::FailedOn(slot.file.name);
+    return StoreSlotText(slot, Str(cookbook));
 }
 
 QStringList ReadCookbookTitles()

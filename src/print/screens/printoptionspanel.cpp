@@ -18,6 +18,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace {
@@ -91,8 +93,26 @@ PrintOptionsPanel::PrintOptionsPanel(Dialogs& dialogs, const QString& autoSizeTe
     optionGroups_ = new QVBoxLayout;
     column->addLayout(optionGroups_);
     column->addStretch();
-    layout->addWidget(side_);
+    // On a small screen the column scrolls rather than squeezing its
+    // controls; the panel's colour shows through.
+    sideScroll_ = new QScrollArea(this);
+    sideScroll_->setObjectName(QStringLiteral("PrintOptionsScroll"));
+    sideScroll_->setFrameShape(QFrame::NoFrame);
+    sideScroll_->setWidgetResizable(true);
+    sideScroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    sideScroll_->setWidget(side_);
+    sideScroll_->viewport()->setAutoFillBackground(false);
+    side_->setAutoFillBackground(false);
+    layout->addWidget(sideScroll_);
     hide();
+}
+
+// The column is as wide as its widest control, with room for its scroll bar;
+// the screen's groups count once they are shown with the panel.
+void PrintOptionsPanel::fitSideWidth()
+{
+    sideScroll_->setMinimumWidth(side_->minimumSizeHint().width()
+                                 + sideScroll_->verticalScrollBar()->sizeHint().width());
 }
 
 QWidget* PrintOptionsPanel::buildFontFrame()
@@ -160,6 +180,7 @@ void PrintOptionsPanel::open()
     orientation_->setText(OrientationText(pageSetup_));
     recompose();
     show();
+    fitSideWidth();
     raise();
     commands_[kPrint]->setFocus();
 }
@@ -238,7 +259,7 @@ void PrintOptionsPanel::toggleLarge()
     // would go on to the screen's fields.
     if (large)
         enlarge_->setFocus(Qt::OtherFocusReason);
-    side_->setVisible(!large);
+    sideScroll_->setVisible(!large);
     preview_->setLarge(large);
     enlarge_->setText(large ? QStringLiteral("Normal") : QStringLiteral("Enlarge"));
 }

@@ -20,6 +20,7 @@ class PagePreview;
 class QLabel;
 class QLineEdit;
 class QPushButton;
+class QScrollArea;
 class QVBoxLayout;
 
 class PrintOptionsPanel final : public QFrame {
@@ -78,6 +79,7 @@ protected:
 
 private:
     QWidget* buildFontFrame();
+    void fitSideWidth();
     void showFont();
 
     Dialogs& dialogs_;
@@ -88,6 +90,7 @@ private:
     PageSetup pageSetup_;
     PagePreview* preview_ = nullptr;
     QWidget* side_ = nullptr;
+    QScrollArea* sideScroll_ = nullptr;
     QVBoxLayout* optionGroups_ = nullptr;
     QList<QPushButton*> commands_;
     QPushButton* enlarge_ = nullptr;

@@ -23,12 +23,6 @@ namespace {
 // Auto Size fits 96 letters "n" across the page.
 const QString kAutoSizeTestLine(96, QLatin1Char('n'));
 
-const Clock& SystemTime()
-{
-    static const SystemClock clock;
-    return clock;
-}
-
 } // namespace
 
 void Form5::buildPrintPanel(QWidget* area)

@@ -42,7 +42,9 @@ CommandSet::CommandSet(QMainWindow* window, std::span<const MenuRow> menus, std:
     for (const CommandSpec& row : rows_) {
         auto* action = new QAction(row.caption.isEmpty() ? row.button.caption : row.caption, window);
         action->setObjectName(QString::fromLatin1(row.name));
-        if (row.menu) {
+        if (const MenuRow* bar = menuRow(row.menu); bar && bar->isCommand) {
+            placeOnMenuBar(window, row.menu, action);
+        } else if (row.menu) {
             QMenu* menu = menuForEntry(row.menu);
             if (row.separatorBefore)
                 menu->addSeparator();
@@ -85,12 +87,34 @@ void CommandSet::buildMenus(QMainWindow* window, std::span<const MenuRow> menus)
 {
     menuRows_.assign(menus.begin(), menus.end());
     for (const MenuRow& row : menus) {
-        if (row.parent)
-            continue; // a submenu comes with its first entry
+        if (row.parent || row.isCommand)
+            continue; // a submenu comes with its first entry, a command with its row
         QMenu* menu = window->menuBar()->addMenu(QString::fromLatin1(row.caption));
         menu->setObjectName(QString::fromLatin1(row.name));
         menus_.emplace_back(row.name, menu);
     }
+}
+
+const MenuRow* CommandSet::menuRow(const char* name) const
+{
+    const auto row = std::find_if(menuRows_.begin(), menuRows_.end(),
+                                  [name](const MenuRow& menuRow) { return SameName(menuRow.name, name); });
+    return row == menuRows_.end() ? nullptr : &*row;
+}
+
+// A command standing on the menu bar goes before the first menu that follows
+// it in the table, so the bar keeps the table's order.
+void CommandSet::placeOnMenuBar(QMainWindow* window, const char* menuName, QAction* action)
+{
+    QAction* before = nullptr;
+    for (auto next = menuRows_.begin() + (menuRow(menuName) - menuRows_.data()) + 1;
+         next != menuRows_.end() && !before; ++next) {
+        if (next->parent || next->isCommand)
+            continue;
+        if (QMenu* following = menu(next->name))
+            before = following->menuAction();
+    }
+    window->menuBar()->insertAction(before, action);
 }
 
 // The menu named `name`; a submenu is made in its parent on first use, so
@@ -99,9 +123,8 @@ QMenu* CommandSet::menuForEntry(const char* name)
 {
     if (QMenu* existing = menu(name))
         return existing;
-    const auto row = std::find_if(menuRows_.begin(), menuRows_.end(),
-                                  [name](const MenuRow& menuRow) { return SameName(menuRow.name, name); });
-    Q_ASSERT_X(row != menuRows_.end() && row->parent, "CommandSet", name);
+    const MenuRow* row = menuRow(name);
+    Q_ASSERT_X(row && row->parent, "CommandSet", name);
     QMenu* parent = menuForEntry(row->parent);
     if (row->separatorBefore)
         parent->addSeparator();

@@ -25,12 +25,16 @@ class QToolBar;
 class QWidget;
 
 // A menu of the menu bar, or a submenu of one (a submenu stands in its
-// parent where its first entry comes in the table).
+// parent where its first entry comes in the table). A menu bar title can be
+// a command of its own, with no entries (a click runs it): the one row that
+// names it as its menu is that command, standing on the bar in the menu's
+// place.
 struct MenuRow {
     const char* name;             // objectName: "mOptions"
     const char* caption;          // "&Options"
     const char* parent = nullptr; // the menu that holds a submenu
     bool separatorBefore = false; // a submenu's separator line in its parent
+    bool isCommand = false;       // the title itself is a command
 };
 
 enum class Toolbar { None, Top, Side };
@@ -86,6 +90,8 @@ public:
 private:
     void buildMenus(QMainWindow* window, std::span<const MenuRow> menus);
     QMenu* menuForEntry(const char* name);
+    const MenuRow* menuRow(const char* name) const;
+    void placeOnMenuBar(QMainWindow* window, const char* menuName, QAction* action);
     void buildToolbar(QToolBar* toolbar, Toolbar which);
 
     std::vector<CommandSpec> rows_;

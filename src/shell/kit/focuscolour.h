@@ -8,3 +8,6 @@ class QWidget;
 void ShowFocusColour(QWidget* field);
 // Back to the desktop's own colours.
 void ClearFocusColour(QWidget* field);
+// Shows the focus colour on `field` whenever it has the keyboard, for
+// fields that need nothing else done when they gain or lose it.
+void ShowFocusColourWhileFocused(QWidget* field);

@@ -26,3 +26,30 @@ GridColors ReadSharedGridColors()
 {
     return ReadGridColors(Settings::GridBackground, Settings::GridTextColor);
 }
+
+Background GridBackgroundOf(QStringView text)
+{
+    const GridColors colors = GridColorsOf(text, QStringView());
+    switch (colors.kind) {
+    case GridColors::Kind::Picture:
+        return Background{Background::Kind::Picture, kDefaultBackgroundColor, text.trimmed().toString()};
+    case GridColors::Kind::Color:
+        return Background::colorOf(colors.color);
+    case GridColors::Kind::Unchanged:
+        break;
+    }
+    return Background::standard();
+}
+
+QString GridBackgroundText(const Background& background)
+{
+    switch (background.kind) {
+    case Background::Kind::Picture:
+        return background.picture;
+    case Background::Kind::Color:
+        return QString::number(background.color);
+    case Background::Kind::Standard:
+        break;
+    }
+    return QString::fromLatin1(kDefaultColorText);
+}

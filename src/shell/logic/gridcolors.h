@@ -3,6 +3,7 @@
 // holds "Default" (leave the grid as it is), a colour number, or the name of
 // a picture beginning "WP" in any case, shown from that name plus ".jpg".
 // The text slot holds "Default" or a colour number.
+#include "shell/logic/background.h"
 #include "shell/settings/settingsregistry.h"
 
 #include <QString>
@@ -22,3 +23,10 @@ GridColors GridColorsOf(QStringView background, QStringView text);
 GridColors ReadGridColors(const SettingsSlot& background, const SettingsSlot& text);
 // The pair that most grids share.
 GridColors ReadSharedGridColors();
+
+// A grid background slot as the background selector shows it, and the text
+// the selector's choice stores there: a picture as its name ("WP3"), a
+// colour as its number, the standard background as "Default" (the grid as
+// it is).
+Background GridBackgroundOf(QStringView text);
+QString GridBackgroundText(const Background& background);

@@ -253,7 +253,7 @@ void BackgroundSelector::selectColorBackground()
 // is told that it lasts only until the program ends.
 void BackgroundSelector::storeCurrent()
 {
-    if (const WriteOutcome written = StoreBackground(current_); !written.held())
+    if (const WriteOutcome written = store_(current_); !written.held())
         dialogs_.ask(WriteFailedMessage(written.failedFile));
 }
 

@@ -4,10 +4,12 @@
 // on a thumbnail shows the picture at once; only "Use &Above Background"
 // keeps it. The panel has no background of its own to show: it asks the
 // main screen to show one (previewBackground) or to take one
-// (backgroundChosen, already stored).
+// (backgroundChosen, already stored). A screen whose grid takes a picture
+// uses the same panel with a store of its own.
 #include "shell/logic/background.h"
 
 #include <QFrame>
+#include <functional>
 
 class Dialogs;
 class QLabel;
@@ -20,8 +22,13 @@ public:
     static constexpr int kHelpTopic = 1001;
     static constexpr int kThumbnailCount = kBackgroundPictureCount;
 
-    // The panel lies over `area`, centred on it.
+    // Where a chosen background is kept.
+    using Store = std::function<WriteOutcome(const Background& background)>;
+
+    // The panel lies over `area`, centred on it. A choice is stored as the
+    // main background until the screen gives another store.
     BackgroundSelector(Dialogs& dialogs, QWidget* area);
+    void setStore(Store store) { store_ = std::move(store); }
 
     // "&Background Selector": opens the panel on the current background, or
     // closes it when it is open.
@@ -68,6 +75,7 @@ private:
 
     Dialogs& dialogs_;
     QWidget* area_;
+    Store store_ = StoreBackground;
     Background current_;
     QString choice_;
     QLabel* thumbnails_[kThumbnailCount] = {};

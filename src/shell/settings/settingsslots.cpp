@@ -50,6 +50,11 @@ bool WriteSlotText(const SettingsSlot& slot, QStringView text)
     return WriteSlot(slot, EncodeSlotText(text));
 }
 
+WriteOutcome StoreSlotText(const SettingsSlot& slot, QStringView text)
+{
+    return WriteSlotText(slot, text) ? WriteOutcome::Held() : WriteOutcome::FailedOn(slot.file.name);
+}
+
 bool WriteSlotInteger(const SettingsSlot& slot, qint16 value)
 {
     return WriteSlot(slot, EncodeSlotInteger(value));

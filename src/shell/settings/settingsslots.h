@@ -4,6 +4,7 @@
 // no settings object lives in memory. Defaults are applied by the readers of
 // each setting, never written. Which slot holds what is listed once, in
 // settingsregistry.h; callers name their slot from there.
+#include "common/filewrites.h"
 #include "common/slotvalues.h"
 
 #include <QString>
@@ -46,6 +47,8 @@ TaggedValue ReadSlotTagged(const SettingsSlot& slot);
 bool WriteSlotText(const SettingsSlot& slot, QStringView text);
 bool WriteSlotInteger(const SettingsSlot& slot, qint16 value);
 bool WriteSlotTagged(const SettingsSlot& slot, const TaggedValue& value);
+// WriteSlotText as a command's outcome, naming the slot's file on failure.
+WriteOutcome StoreSlotText(const SettingsSlot& slot, QStringView text);
 
 // The same slot reached through another spelling of its file's name (the
 // cookbook menus open "Gcolor4.fil"); the case-blind resolver lands both on
