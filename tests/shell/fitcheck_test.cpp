@@ -48,3 +48,21 @@ TEST(FitCheck, APanelOverTheScreenMayCoverIt)
     panel->move(0, 0);
     EXPECT_EQ(FitProblems(&window), QStringList());
 }
+
+TEST(FitCheck, AMinimumSetOnAControlWinsOverItsHint)
+{
+    QWidget window;
+    window.resize(300, 200);
+    auto* box = new QLineEdit(&window);
+    box->setObjectName(QStringLiteral("box"));
+    box->setMinimumWidth(8);
+    box->setGeometry(0, 0, 10, 40);
+    auto* hinted = new QLineEdit(&window);
+    hinted->setObjectName(QStringLiteral("hinted"));
+    hinted->setGeometry(0, 100, 10, 40);
+    window.show();
+    ASSERT_LT(10, box->minimumSizeHint().width());
+    EXPECT_EQ(FitProblems(&window), QStringList{QStringLiteral("QLineEdit \"hinted\" is squeezed to 10x40 (needs %1x%2)")
+                                                    .arg(hinted->minimumSizeHint().width())
+                                                    .arg(hinted->minimumSizeHint().height())});
+}

@@ -93,7 +93,13 @@ QStringList FitProblems(QWidget* window)
             child = parent;
         }
         // Not squeezed below what it needs.
-        const QSize needed = widget->minimumSizeHint();
+        // What a layout grants it: a minimum size set on the control wins
+        // over the size it hints, one direction at a time.
+        QSize needed = widget->minimumSizeHint();
+        if (widget->minimumWidth() > 0)
+            needed.setWidth(widget->minimumWidth());
+        if (widget->minimumHeight() > 0)
+            needed.setHeight(widget->minimumHeight());
         if (needed.isValid() && (widget->width() < needed.width() || widget->height() < needed.height()))
             problems << QStringLiteral("%1 is squeezed to %2x%3 (needs %4x%5)")
                             .arg(NameOf(widget))

@@ -13,6 +13,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 Form5::Form5(Dialogs& dialogs, QWidget* parent)
@@ -30,13 +31,19 @@ Form5::Form5(Dialogs& dialogs, QWidget* parent)
     stripFont.setBold(true);
     titleStrip_->setFont(stripFont);
     fields_ = new RecipeFieldsPanel(central);
+    // On a short screen the fields scroll rather than push the commands off.
+    auto* fieldsArea = new QScrollArea(central);
+    fieldsArea->setObjectName(QStringLiteral("RecipeFieldsArea"));
+    fieldsArea->setFrameShape(QFrame::NoFrame);
+    fieldsArea->setWidgetResizable(true);
+    fieldsArea->setWidget(fields_);
     QFrame* commands = MakeRaisedPanel(QStringLiteral("SSPanel5"), central);
     buildCommands(commands);
     auto* layout = new QVBoxLayout(central);
     layout->setContentsMargins(4, 4, 4, 4);
     layout->setSpacing(4);
     layout->addWidget(titleStrip_);
-    layout->addWidget(fields_, 1);
+    layout->addWidget(fieldsArea, 1);
     layout->addWidget(commands);
     renamePanel_ = new RenamePanel(central);
     calculator_ = new CalculatorPanel(central);

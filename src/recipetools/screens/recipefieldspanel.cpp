@@ -24,6 +24,8 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 // An amount is typed as a decimal of the record's five characters; shown as
@@ -32,6 +34,7 @@ namespace {
 constexpr int kShownAmountLength = 32767;
 constexpr int kRowsPerBlock = kRecipeRows / 2;
 constexpr qint32 kRedCounter = 255;
+constexpr int kNamesPanelHeight = 260;
 
 QLineEdit* MakeBox(const QString& name, int maxLength, QWidget* parent)
 {
@@ -219,7 +222,8 @@ void RecipeFieldsPanel::buildLayout()
     auto* names = new QVBoxLayout(namesPanel_);
     names->addWidget(Caption(QStringLiteral("Current Recipe Names"), namesPanel_, true));
     names->addWidget(currentNamesList_);
-    namesPanel_->resize(300, 260);
+    namesPanel_->setProperty("overlay", true);
+    namesPanel_->resize(300, kNamesPanelHeight);
     namesPanel_->hide();
     frames_ << namesPanel_;
 
@@ -249,8 +253,10 @@ QList<QWidget*> RecipeFieldsPanel::colouredPanels() const
 void RecipeFieldsPanel::showCurrentNames()
 {
     const QRect name(nameStack_->mapTo(this, QPoint(0, 0)), nameStack_->size());
-    namesPanel_->resize(std::min(name.width(), 420), namesPanel_->height());
-    namesPanel_->move(name.right() - namesPanel_->width(), name.bottom() + 6);
+    // Below the name box, as tall as the panel leaves room for.
+    const int top = name.bottom() + 6;
+    namesPanel_->resize(std::min(name.width(), 420), std::clamp(height() - top - 4, 120, kNamesPanelHeight));
+    namesPanel_->move(name.right() - namesPanel_->width(), top);
     namesPanel_->show();
     namesPanel_->raise();
 }

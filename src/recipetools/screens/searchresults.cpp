@@ -23,7 +23,7 @@ ScreenGrid* MakeGrid(const QString& objectName, const QString& typeHeading, QWid
     grid->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Interactive);
     grid->horizontalHeader()->setStretchLastSection(true);
     grid->setColumnWidth(0, 220);
-    grid->setMinimumSize(560, 240);
+    grid->setMinimumSize(480, 150);
     return grid;
 }
 

@@ -10,6 +10,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 OverlayPanel::OverlayPanel(const QString& objectName, const QString& caption, QWidget* parent) : QFrame(parent)
 {
     setObjectName(objectName);
@@ -27,6 +29,8 @@ OverlayPanel::OverlayPanel(const QString& objectName, const QString& caption, QW
     layout->addLayout(body_, 1);
     layout->addLayout(buttons_);
     hide();
+    if (parent)
+        parent->installEventFilter(this);
 }
 
 QFormLayout* OverlayPanel::form()
@@ -50,6 +54,7 @@ QPushButton* OverlayPanel::addButton(const QString& objectName, const QString& c
 void OverlayPanel::open(QWidget* focus)
 {
     adjustSize();
+    keepInsideParent();
     show();
     raise();
     if (focus)
@@ -61,7 +66,7 @@ void OverlayPanel::centreInParent(double fromTop)
     const QWidget* area = parentWidget();
     if (!area)
         return;
-    move((area->width() - width()) / 2, int((area->height() - height()) * fromTop));
+    move(std::max(0, (area->width() - width()) / 2), std::max(0, int((area->height() - height()) * fromTop)));
 }
 
 void OverlayPanel::setVisible(bool visible)
@@ -69,6 +74,27 @@ void OverlayPanel::setVisible(bool visible)
     if (!visible && parentWidget() && isAncestorOf(QApplication::focusWidget()))
         parentWidget()->setFocus(Qt::OtherFocusReason);
     QFrame::setVisible(visible);
+}
+
+void OverlayPanel::keepInsideParent()
+{
+    const QWidget* area = parentWidget();
+    if (!area)
+        return;
+    // Never larger than the screen under it: what does not fit scrolls in
+    // the panel's grids and lists rather than running off the window.
+    const QSize least = minimumSizeHint();
+    resize(std::max(least.width(), std::min(width(), area->width())),
+           std::max(least.height(), std::min(height(), area->height())));
+    move(std::clamp(x(), 0, std::max(0, area->width() - width())),
+         std::clamp(y(), 0, std::max(0, area->height() - height())));
+}
+
+bool OverlayPanel::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == parentWidget() && event->type() == QEvent::Resize && isVisible())
+        keepInsideParent();
+    return QFrame::eventFilter(watched, event);
 }
 
 void OverlayPanel::keyPressEvent(QKeyEvent* event)

@@ -2,8 +2,9 @@
 // A panel that opens over a screen (rename, titles, calculator, search, the
 // shopping list's select panels): a raised frame in the screen's panel
 // colour with a bold caption at the top, the panel's own rows, and a row of
-// command buttons at the bottom. Opening sizes it to its contents and
-// brings it up in front; Escape inside it asks the screen to close it.
+// command buttons at the bottom. Opening sizes it to its contents, never
+// larger than the screen under it, and brings it up in front; Escape inside
+// it asks the screen to close it.
 #include <QFrame>
 
 class QBoxLayout;
@@ -45,8 +46,12 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    // The window under an open panel shrinking keeps the panel inside it.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void keepInsideParent();
+
     QLabel* caption_ = nullptr;
     QVBoxLayout* body_ = nullptr;
     QFormLayout* form_ = nullptr;
