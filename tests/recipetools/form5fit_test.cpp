@@ -9,25 +9,12 @@
 
 namespace {
 
-struct Size {
-    const char* name;
-    int width;
-    int height;
-};
-const Size kSizes[] = {{"800x600", 800, 600}, {"960x540 (200 %)", 960, 540}};
-
 class Form5FitTest : public Form5Test {
 protected:
     void expectFits(Form5& form, const char* state)
     {
-        for (const Size& size : kSizes) {
-            SCOPED_TRACE(std::string(state) + " at " + size.name);
-            form.resize(size.width, size.height);
-            QApplication::processEvents();
-            EXPECT_LE(form.minimumSizeHint().width(), size.width);
-            EXPECT_LE(form.minimumSizeHint().height(), size.height);
-            EXPECT_EQ(FitProblems(&form), QStringList());
-        }
+        for (const FitSize& fit : kFitSizes)
+            EXPECT_EQ(FitProblemsAt(&form, fit.size), "") << state << " at " << fit.name;
     }
     // A recipe with a yield, viewed.
     void viewStew(Form5& form)

@@ -1,6 +1,7 @@
 #include "fit_check.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QAbstractItemView>
 #include <QAbstractScrollArea>
 #include <QAbstractSlider>
@@ -121,4 +122,16 @@ QStringList FitProblems(QWidget* window)
         }
     }
     return problems;
+}
+
+std::string FitProblemsAt(QWidget* window, QSize size)
+{
+    window->resize(size);
+    QApplication::processEvents();
+    QStringList problems;
+    const QSize least = window->minimumSizeHint();
+    if (least.width() > size.width() || least.height() > size.height())
+        problems << QStringLiteral("the window needs at least %1x%2").arg(least.width()).arg(least.height());
+    problems << FitProblems(window);
+    return problems.join(u'\n').toStdString();
 }

@@ -11,6 +11,7 @@
 #include <QButtonGroup>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
 
 Convform::Convform(Dialogs& dialogs, QWidget* parent)
     : ActivityWindow(dialogs, {"Convform", Settings::MainPanelColor, kHelpTopic}, parent)
@@ -21,7 +22,12 @@ Convform::Convform(Dialogs& dialogs, QWidget* parent)
     central->setObjectName(QStringLiteral("ConvformArea"));
     setCentralWidget(central);
     QFrame* entryPanel = buildEntryPanel(central);
-    QWidget* optionFrames = buildOptionFrames(central);
+    // The option frames scroll when the window is smaller than they are.
+    auto* optionFrames = new QScrollArea(central);
+    optionFrames->setObjectName(QStringLiteral("OptionFramesArea"));
+    optionFrames->setFrameShape(QFrame::NoFrame);
+    optionFrames->setWidgetResizable(true);
+    optionFrames->setWidget(buildOptionFrames(optionFrames));
     QFrame* commandPanel = buildCommandPanel(central);
     auto* layout = new QVBoxLayout(central);
     layout->addWidget(entryPanel);
