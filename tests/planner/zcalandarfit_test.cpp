@@ -1,0 +1,44 @@
+// The planner in a window of 800 by 600: nothing cut off, squeezed or
+// overlapping, with one and with three months.
+#include "zcalandar_fixture.h"
+
+#include "fit_check.h"
+#include "raw_slots.h"
+
+namespace {
+
+class ZcalandarFitTest : public ZcalandarTest {
+protected:
+    std::unique_ptr<Zcalandar> openSmall(int months)
+    {
+        WriteSlotInteger(SWR2, 10, qint16(months - 1));
+        WriteSlotInteger(SWR2, 13, 1);
+        auto screen = open();
+        screen->resize(800, 600);
+        screen->show();
+        screen->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(screen.get()));
+        return screen;
+    }
+    // Empty when the screen fits; else one line per problem.
+    static std::string Problems(Zcalandar& screen)
+    {
+        QApplication::processEvents();
+        return FitProblems(&screen).join(u'\n').toStdString();
+    }
+};
+
+} // namespace
+
+TEST_F(ZcalandarFitTest, OneMonthFits)
+{
+    auto screen = openSmall(1);
+    EXPECT_EQ(Problems(*screen), "");
+}
+
+TEST_F(ZcalandarFitTest, ThreeMonthsFit)
+{
+    auto screen = openSmall(3);
+    EXPECT_EQ(screen->calendar()->monthCount(), 3);
+    EXPECT_EQ(Problems(*screen), "");
+}
