@@ -70,7 +70,7 @@ TEST_F(ZcalandarTest, ADayNeverSavedOpensBlankWithClearEntriesOff)
         EXPECT_EQ(line(*screen, index)->text(), QString()) << index;
     EXPECT_FALSE(act(*screen, "mClearEntries")->isEnabled());
     EXPECT_FALSE(button(*screen, 1)->isEnabled());
-    for (const char* name : {"mSave", "mExit"})
+    for (const char* name : {"mSave", "mEditLists", "mExit"})
         EXPECT_TRUE(act(*screen, name)->isEnabled()) << name;
     EXPECT_TRUE(QFile::exists(folder.filePath(QStringLiteral(" 2026.Mnu")))) << "the year was looked at";
 }
@@ -78,6 +78,7 @@ TEST_F(ZcalandarTest, ADayNeverSavedOpensBlankWithClearEntriesOff)
 TEST_F(ZcalandarTest, EveryCommandHasItsCaptionsAndDoors)
 {
     auto screen = open();
+    screen->setBackupOpener([](int, int) {});
     ExpectDoors(*screen, {
         {"mSave", "&Save", "&Save", false},
         {"mClearEntries", "&Clear Entries", "&Clear Entries", true},
@@ -312,6 +313,7 @@ TEST_F(ZcalandarTest, PagingTheDayOutOfSightLeavesNoDaySelected)
     EXPECT_EQ(datePanel(*screen), QString());
     for (const char* name : {"mSave", "mClearEntries", "mPrintView", "mCopy", "mToolbarPrint"})
         EXPECT_FALSE(act(*screen, name)->isEnabled()) << name;
+    EXPECT_TRUE(act(*screen, "mEditLists")->isEnabled());
     // A click on a line asks for a day and locks the lines until one is picked.
     dialogs.expectMessage(QStringLiteral("Data Entry"), QStringLiteral("Please select a Day before entering data!"));
     QTest::mouseClick(line(*screen, 4), Qt::LeftButton);

@@ -1,5 +1,5 @@
 // The planner in a window of 800 by 600: nothing cut off, squeezed or
-// overlapping, with one and with three months.
+// overlapping, with one and with three months, and with every panel open.
 #include "zcalandar_fixture.h"
 
 #include "fit_check.h"
@@ -40,5 +40,19 @@ TEST_F(ZcalandarFitTest, ThreeMonthsFit)
 {
     auto screen = openSmall(3);
     EXPECT_EQ(screen->calendar()->monthCount(), 3);
+    EXPECT_EQ(Problems(*screen), "");
+}
+
+TEST_F(ZcalandarFitTest, TheListEditorFits)
+{
+    auto screen = openSmall(3);
+    act(*screen, "mEditLists")->trigger();
+    EXPECT_EQ(Problems(*screen), "");
+}
+
+TEST_F(ZcalandarFitTest, TheCalendarOptionsFit)
+{
+    auto screen = openSmall(3);
+    act(*screen, "mCalendarOptions")->trigger();
     EXPECT_EQ(Problems(*screen), "");
 }

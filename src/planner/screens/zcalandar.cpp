@@ -4,8 +4,11 @@
 #include "common/dates.h"
 #include "common/programfolder.h"
 #include "common/writefailure.h"
+#include "planner/logic/plannertextcolor.h"
+#include "planner/screens/calendaroptionspanel.h"
 #include "planner/screens/calendarstrip.h"
 #include "planner/screens/daylinespanel.h"
+#include "planner/screens/editlistspanel.h"
 #include "shell/kit/raisedpanel.h"
 #include "shell/kit/screenstatusbar.h"
 #include "shell/kit/screentoolbars.h"
@@ -54,6 +57,8 @@ Zcalandar::Zcalandar(Dialogs& dialogs, const Clock& clock, QWidget* parent)
     buildScreen();
     connectPanels();
     declareEscapeOrder();
+    textColor_ = ReadPlannerTextColor();
+    lines_->setTextColor(textColor_);
     runOpening();
     showActivity();
     showClock();
@@ -106,7 +111,11 @@ void Zcalandar::buildScreen()
     layout->addWidget(lines_);
     layout->addWidget(buttons);
 
-    addColouredPanels(QList<QWidget*>{calendar_, datePanel_, clockPanel_, buttons} + lines_->colouredPanels());
+    editLists_ = new EditListsPanel(central);
+    options_ = new CalendarOptionsPanel(central);
+
+    addColouredPanels(QList<QWidget*>{calendar_, datePanel_, clockPanel_, buttons, editLists_}
+                      + lines_->colouredPanels() + options_->colouredPanels());
 }
 
 void Zcalandar::connectPanels()
@@ -117,6 +126,16 @@ void Zcalandar::connectPanels()
     connect(lines_, &DayLinesPanel::deletePressed, this, &Zcalandar::lineEdited);
     connect(lines_, &DayLinesPanel::enterPressed, this, &Zcalandar::enterPressed);
     connect(lines_, &DayLinesPanel::itemPicked, this, &Zcalandar::itemPicked);
+
+    connect(editLists_, &EditListsPanel::listChosen, this, &Zcalandar::chooseEditList);
+    connect(editLists_, &EditListsPanel::itemEntered, this, &Zcalandar::addListItem);
+    connect(editLists_, &EditListsPanel::deleteRequested, this, &Zcalandar::deleteListItem);
+    connect(editLists_, &EditListsPanel::closeRequested, this, &Zcalandar::closeEditLists);
+
+    connect(options_, &CalendarOptionsPanel::optionsChanged, this, &Zcalandar::applyCalendarOptions);
+    connect(options_, &CalendarOptionsPanel::closeRequested, this, &Zcalandar::closeCalendarOptions);
+
+    connect(commands_->menu("mUtilities"), &QMenu::aboutToShow, this, &Zcalandar::utilitiesOpening);
 }
 
 QDate Zcalandar::currentDate() const

@@ -3,7 +3,7 @@
 // the user picks a day, and the day's 21 lines, seven each for breakfast,
 // lunch and dinner, each meal with its list of remembered dishes. The
 // screen's state is PlannerState, and CommandStatesFor decides every enabled
-// state.
+// state. Panels: the list editor and the calendar options.
 //
 // The lines on the screen came from `loaded_`, which lags the calendar by
 // one step on purpose: when the user moves to another day with unsaved
@@ -15,10 +15,14 @@
 #include "shell/kit/activitywindow.h"
 
 #include <array>
+#include <functional>
+#include <optional>
 
+class CalendarOptionsPanel;
 class CalendarStrip;
 class Clock;
 class DayLinesPanel;
+class EditListsPanel;
 class QLabel;
 class QScrollArea;
 class QTimer;
@@ -33,10 +37,17 @@ class Zcalandar final : public ActivityWindow {
     Q_OBJECT
 public:
     static constexpr int kHelpTopic = 1050;
+    // Opens Backup1 modally in a mode for a year's plan file.
+    using BackupOpener = std::function<void(int mode, int year)>;
+
     // `clock` gives today and the clock panel's time.
     Zcalandar(Dialogs& dialogs, const Clock& clock, QWidget* parent = nullptr);
     explicit Zcalandar(Dialogs& dialogs, QWidget* parent = nullptr);
     ~Zcalandar() override;
+
+    // Backup and restore of the year's file go through `opener`; without
+    // one both entries stay off.
+    void setBackupOpener(BackupOpener opener);
 
     const PlannerState& state() const { return state_; }
     bool dirty() const { return dirty_; }
@@ -47,6 +58,8 @@ public:
 
     CalendarStrip* calendar() const { return calendar_; }
     DayLinesPanel* linesPanel() const { return lines_; }
+    EditListsPanel* editListsPanel() const { return editLists_; }
+    CalendarOptionsPanel* optionsPanel() const { return options_; }
 
 protected:
     bool readyToClose() override;
@@ -78,10 +91,22 @@ private:
     void showLongDate();
     void showClock();
 
-    // The meal lists and the calendar (zcalandarpanels.cpp).
+    // Lists, options, colours and utilities (zcalandarpanels.cpp).
     void loadLists();
     bool saveList(Meal meal);
+    void openEditLists();
+    void chooseEditList(Meal meal);
+    void addListItem(const QString& text);
+    void deleteListItem(const QString& text);
+    void closeEditLists();
+    void toggleCalendarOptions();
+    void openCalendarOptions();
     void applyCalendarOptions(const CalendarOptions& options);
+    void closeCalendarOptions();
+    void chooseTextColor();
+    void utilitiesOpening();
+    void backupYear();
+    void restoreYear();
 
     // Showing the state.
     void setPanel(PlannerPanel panel);
@@ -92,6 +117,7 @@ private:
     void fitCalendarArea();
 
     const Clock& clock_;
+    BackupOpener backupOpener_;
     PlannerState state_;
     PlannerCommandStates on_;
     std::unique_ptr<CommandTable<ZcalandarCommand>> commands_;
@@ -101,6 +127,7 @@ private:
     QDate loadedDate_;             // the day they stand for
     LineEntry entry_;              // ActiveLine, PendingListCheck
     std::array<MenuItemList, 3> lists_;
+    std::optional<qint32> textColor_;
 
     CalendarStrip* calendar_ = nullptr;
     QScrollArea* calendarArea_ = nullptr;
@@ -108,4 +135,6 @@ private:
     QLabel* clockPanel_ = nullptr;
     QTimer* clockTimer_ = nullptr;
     DayLinesPanel* lines_ = nullptr;
+    EditListsPanel* editLists_ = nullptr;
+    CalendarOptionsPanel* options_ = nullptr;
 };

@@ -2,6 +2,8 @@
 // toolbar buttons, and the order in which Escape closes what is open.
 #include "planner/screens/zcalandar.h"
 
+#include "planner/screens/calendaroptionspanel.h"
+#include "planner/screens/editlistspanel.h"
 
 namespace {
 
@@ -23,9 +25,9 @@ void Zcalandar::buildCommands(QWidget* buttonPanel)
     commands_ = makeCommands<ZcalandarCommand>(kMenus, commandRows(), buttonPanel);
 }
 
-// The list editor, the calendar options, the text colour, the view,
-// printing, copying, backup and restore come with panels of their own;
-// until then their rows have no routine and stay disabled.
+// The view, printing and copying come with a panel of their own; until then
+// their rows have no routine and stay disabled. Backup and restore have
+// routines only once a backup opener is given.
 std::vector<CommandRow<ZcalandarCommand>> Zcalandar::commandRows()
 {
     using enum ZcalandarCommand;
@@ -44,16 +46,16 @@ std::vector<CommandRow<ZcalandarCommand>> Zcalandar::commandRows()
                         .run = [this] { clearEntries(); }, .enabled = rule(&PlannerCommandStates::clearEntries)}},
         {EditLists, {.name = "mEditLists", .menu = "mOptions", .caption = "&Edit Lists",
                      .button = {"&Edit Lists", 2}, .toolbar = {Toolbar::Top, kEditLists},
-                     .enabled = rule(&PlannerCommandStates::editLists)}},
+                     .run = [this] { openEditLists(); }, .enabled = rule(&PlannerCommandStates::editLists)}},
         {PrintView, {.name = "mPrintView", .menu = "mOptions", .caption = "&Print/View",
                      .button = {"&Print/View", 3},
                      .enabled = rule(&PlannerCommandStates::printView), .shortcut = QKeySequence::Print}},
         {PanelColor, panelColor},
         {TextColor, {.name = "mTextColor", .menu = "mOptions", .caption = "&Text Color",
-                     .toolbar = {Toolbar::Top, kTextColor},
+                     .toolbar = {Toolbar::Top, kTextColor}, .run = [this] { chooseTextColor(); },
                      .enabled = rule(&PlannerCommandStates::textColor)}},
         {CalendarOptions, {.name = "mCalendarOptions", .menu = "mOptions", .caption = "Calendar &Display Options",
-                           .toolbar = {Toolbar::Top, kCalendarOptions},
+                           .toolbar = {Toolbar::Top, kCalendarOptions}, .run = [this] { toggleCalendarOptions(); },
                            .enabled = rule(&PlannerCommandStates::calendarOptions)}},
         {Exit, exit},
         {Copy, {.name = "mCopy", .menu = "mEdit", .caption = "&Copy", .toolbar = {Toolbar::Top, kCopy},
@@ -70,10 +72,20 @@ std::vector<CommandRow<ZcalandarCommand>> Zcalandar::commandRows()
     };
 }
 
-// Escape is "E&xit", with its question.
+void Zcalandar::setBackupOpener(BackupOpener opener)
+{
+    backupOpener_ = std::move(opener);
+    commands_->setRoutine(ZcalandarCommand::Backup, [this] { backupYear(); });
+    commands_->setRoutine(ZcalandarCommand::Restore, [this] { restoreYear(); });
+}
+
+// Escape closes the panel in front first: the list editor or the calendar
+// options; with none open it is "E&xit".
 void Zcalandar::declareEscapeOrder()
 {
     setEscapeOrder({
+        {[this] { return state_.panel == PlannerPanel::EditLists; }, [this] { closeEditLists(); }},
+        {[this] { return state_.panel == PlannerPanel::CalendarOptions; }, [this] { closeCalendarOptions(); }},
         {[] { return true; }, [this] { exitPlanner(); }},
     });
 }
