@@ -70,7 +70,7 @@ TEST_F(ZcalandarTest, ADayNeverSavedOpensBlankWithClearEntriesOff)
         EXPECT_EQ(line(*screen, index)->text(), QString()) << index;
     EXPECT_FALSE(act(*screen, "mClearEntries")->isEnabled());
     EXPECT_FALSE(button(*screen, 1)->isEnabled());
-    for (const char* name : {"mSave", "mEditLists", "mExit"})
+    for (const char* name : {"mSave", "mEditLists", "mPrintView", "mToolbarPrint", "mExit"})
         EXPECT_TRUE(act(*screen, name)->isEnabled()) << name;
     EXPECT_TRUE(QFile::exists(folder.filePath(QStringLiteral(" 2026.Mnu")))) << "the year was looked at";
 }

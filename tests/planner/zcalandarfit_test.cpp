@@ -2,8 +2,14 @@
 // overlapping, with one and with three months, and with every panel open.
 #include "zcalandar_fixture.h"
 
+#include "planner/screens/menuviewpanel.h"
+#include "print/screens/printoptionspanel.h"
+
 #include "fit_check.h"
 #include "raw_slots.h"
+
+#include <QComboBox>
+#include <QRadioButton>
 
 namespace {
 
@@ -54,5 +60,27 @@ TEST_F(ZcalandarFitTest, TheCalendarOptionsFit)
 {
     auto screen = openSmall(3);
     act(*screen, "mCalendarOptions")->trigger();
+    EXPECT_EQ(Problems(*screen), "");
+}
+
+TEST_F(ZcalandarFitTest, TheViewWithItsTableFits)
+{
+    for (int i = 0; i < 10; ++i)
+        ASSERT_TRUE(SaveDay(MenuPlaceOf(kToday.addDays(i)), LinesWith({{0, QStringLiteral("Eggs")}, {14, QStringLiteral("Stew")}})));
+    auto screen = openSmall(1);
+    act(*screen, "mPrintView")->trigger();
+    screen->viewPanel()->currentDatePlusChoice()->click();
+    screen->viewPanel()->dayList()->setCurrentIndex(9);
+    screen->viewPanel()->button(MenuViewPanel::kView)->click();
+    EXPECT_EQ(Problems(*screen), "");
+}
+
+TEST_F(ZcalandarFitTest, ThePrintOptionsFit)
+{
+    ASSERT_TRUE(SaveDay(MenuPlaceOf(kToday), LinesWith({{0, QStringLiteral("Eggs")}})));
+    auto screen = openSmall(3);
+    act(*screen, "mPrintView")->trigger();
+    screen->viewPanel()->button(MenuViewPanel::kPrintOptions)->click();
+    ASSERT_TRUE(screen->printPanel()->isVisible());
     EXPECT_EQ(Problems(*screen), "");
 }

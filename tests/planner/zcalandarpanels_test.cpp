@@ -4,7 +4,9 @@
 
 #include "planner/screens/calendaroptionspanel.h"
 #include "planner/screens/editlistspanel.h"
+#include "planner/screens/menuviewpanel.h"
 #include "shell/kit/droplist.h"
+#include "shell/kit/screengrid.h"
 
 #include "common/colors.h"
 #include "common/widgets/qtcolors.h"
@@ -192,7 +194,7 @@ TEST_F(ZcalandarTest, CloseRestoresTheScreen)
     EXPECT_FALSE(screen->editListsPanel()->isVisible());
     EXPECT_EQ(status(*screen), QStringLiteral("Menu Planner"));
     EXPECT_TRUE(line(*screen, 0)->isEnabled());
-    for (const char* name : {"mSave", "mEditLists", "mCalendarOptions"})
+    for (const char* name : {"mSave", "mEditLists", "mPrintView", "mCalendarOptions"})
         EXPECT_TRUE(act(*screen, name)->isEnabled()) << name;
     EXPECT_TRUE(button(*screen, 2)->hasFocus());
     button(*screen, 2)->click();
@@ -297,12 +299,13 @@ TEST_F(ZcalandarTest, OptionsThatCannotBeWrittenKeepThePanelOpen)
 
 // ---- Colours -------------------------------------------------------------------------
 
-TEST_F(ZcalandarTest, TheTextColourColoursTheLinesAndIsStored)
+TEST_F(ZcalandarTest, TheTextColourColoursTheLinesAndTheViewAndIsStored)
 {
     auto screen = openShown();
     dialogs.expectColor(255);
     act(*screen, "mTextColor")->trigger();
     EXPECT_EQ(line(*screen, 3)->palette().color(QPalette::Text), QColor(255, 0, 0));
+    EXPECT_EQ(screen->viewPanel()->table()->palette().color(QPalette::Text), QColor(255, 0, 0));
     EXPECT_EQ(ReadSlotText(GColor2, 23), QStringLiteral("255"));
     QByteArray expected(23 * 20, '\0');
     expected[22 * 20] = 3;
@@ -310,6 +313,16 @@ TEST_F(ZcalandarTest, TheTextColourColoursTheLinesAndIsStored)
     EXPECT_EQ(bytesOf(QStringLiteral("GColor2.Fil")), expected);
     auto again = open();
     EXPECT_EQ(again->linesPanel()->line(0)->palette().color(QPalette::Text), QColor(255, 0, 0));
+}
+
+TEST_F(ZcalandarTest, TheViewTableTakesTheSharedGridBackgroundButNotItsTextColour)
+{
+    WriteSlotText(GColor1, 28, u"65535");
+    WriteSlotText(GColor1, 29, u"255");
+    auto screen = open();
+    ScreenGrid* table = screen->viewPanel()->table();
+    EXPECT_EQ(table->palette().color(QPalette::Base), QColor(255, 255, 0));
+    EXPECT_NE(table->palette().color(QPalette::Text), QColor(255, 0, 0));
 }
 
 TEST_F(ZcalandarTest, ACancelledTextColourChangesNothing)

@@ -9,13 +9,16 @@
 #include "print/screens/pagepreview.h"
 #include "print/screens/printoptionspanel.h"
 #include "shell/settings/settingsregistry.h"
+#include "common/writefailure.h"
 
+#include "fit_check.h"
 #include "pdf_text.h"
 #include "scripted_dialogs.h"
 #include "temp_program_folder.h"
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -209,6 +212,22 @@ TEST_F(PanelFixture, ExitStoresTheFontWhereTheScreenKeepsIt)
     EXPECT_EQ(bytes.left(25 * 40), QByteArray(25 * 40, '\0')) << "no other slot is written";
 }
 
+TEST_F(PanelFixture, AFontThatCannotBeStoredIsToldAndThePanelStaysOpen)
+{
+    ASSERT_TRUE(QDir().mkdir(QStringLiteral("GColor4.Fil")));
+    panel->setFontSlots({Settings::ZcalandarPrintFontName, Settings::ZcalandarPrintFontSize});
+    panel->open();
+    QSignalSpy exited(panel, &PrintOptionsPanel::exited);
+    const Message failed = WriteFailedMessage(QStringLiteral("GColor4.Fil"));
+    dialogs.expectMessage(failed.title, failed.text);
+    panel->command(PrintOptionsPanel::kExitPrintOptions)->click();
+    ASSERT_EQ(dialogs.messages().size(), 1);
+    EXPECT_EQ(dialogs.messages()[0], failed);
+    EXPECT_TRUE(panel->isVisible());
+    EXPECT_EQ(exited.count(), 0);
+    EXPECT_TRUE(dialogs.scriptDone());
+}
+
 TEST_F(PanelFixture, ExitStoresNoFontForAScreenWithoutSlots)
 {
     panel->open();
@@ -308,4 +327,13 @@ TEST(PagePainter, PaintsTheTextWhereTheDocumentPutsIt)
     }
     EXPECT_GE(firstDark, 358);
     EXPECT_LE(firstDark, 366);
+}
+
+TEST_F(PanelFixture, ThePanelFitsAScreenOf800By600)
+{
+    screen.resize(800, 600);
+    panel->setGeometry(screen.rect());
+    panel->open();
+    QApplication::processEvents();
+    EXPECT_EQ(FitProblems(&screen).join(u'\n').toStdString(), "");
 }

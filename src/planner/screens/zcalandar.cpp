@@ -9,6 +9,8 @@
 #include "planner/screens/calendarstrip.h"
 #include "planner/screens/daylinespanel.h"
 #include "planner/screens/editlistspanel.h"
+#include "planner/screens/menuviewpanel.h"
+#include "print/screens/printoptionspanel.h"
 #include "shell/kit/raisedpanel.h"
 #include "shell/kit/screenstatusbar.h"
 #include "shell/kit/screentoolbars.h"
@@ -59,6 +61,7 @@ Zcalandar::Zcalandar(Dialogs& dialogs, const Clock& clock, QWidget* parent)
     declareEscapeOrder();
     textColor_ = ReadPlannerTextColor();
     lines_->setTextColor(textColor_);
+    view_->setTextColor(textColor_);
     runOpening();
     showActivity();
     showClock();
@@ -113,9 +116,11 @@ void Zcalandar::buildScreen()
 
     editLists_ = new EditListsPanel(central);
     options_ = new CalendarOptionsPanel(central);
+    view_ = new MenuViewPanel(central);
+    buildPrintPanel(central);
 
-    addColouredPanels(QList<QWidget*>{calendar_, datePanel_, clockPanel_, buttons, editLists_}
-                      + lines_->colouredPanels() + options_->colouredPanels());
+    addColouredPanels(QList<QWidget*>{calendar_, datePanel_, clockPanel_, buttons, editLists_, view_}
+                      + lines_->colouredPanels() + options_->colouredPanels() + printPanel_->colouredPanels());
 }
 
 void Zcalandar::connectPanels()
@@ -134,6 +139,14 @@ void Zcalandar::connectPanels()
 
     connect(options_, &CalendarOptionsPanel::optionsChanged, this, &Zcalandar::applyCalendarOptions);
     connect(options_, &CalendarOptionsPanel::closeRequested, this, &Zcalandar::closeCalendarOptions);
+
+    connect(view_, &MenuViewPanel::viewRequested, this, &Zcalandar::showView);
+    connect(view_, &MenuViewPanel::printOptionsRequested, this, &Zcalandar::openPrintOptions);
+    connect(view_, &MenuViewPanel::closeRequested, this, &Zcalandar::closePrintView);
+    connect(view_, &MenuViewPanel::choiceChanged, this, [this] {
+        if (view_->tableShown())
+            showView();
+    });
 
     connect(commands_->menu("mUtilities"), &QMenu::aboutToShow, this, &Zcalandar::utilitiesOpening);
 }
@@ -204,4 +217,8 @@ void Zcalandar::resizeEvent(QResizeEvent* event)
 {
     ActivityWindow::resizeEvent(event);
     fitCalendarArea();
+    // The print options cover the whole screen below the toolbar, and so
+    // does the view panel while its table shows.
+    placeViewPanel();
+    printPanel_->setGeometry(centralWidget()->rect());
 }

@@ -3,7 +3,8 @@
 // the user picks a day, and the day's 21 lines, seven each for breakfast,
 // lunch and dinner, each meal with its list of remembered dishes. The
 // screen's state is PlannerState, and CommandStatesFor decides every enabled
-// state. Panels: the list editor and the calendar options.
+// state. Panels: the list editor, the calendar options, the view panel with
+// its table, and the print options over it.
 //
 // The lines on the screen came from `loaded_`, which lags the calendar by
 // one step on purpose: when the user moves to another day with unsaved
@@ -23,6 +24,10 @@ class CalendarStrip;
 class Clock;
 class DayLinesPanel;
 class EditListsPanel;
+class MenuPrintOptions;
+class MenuViewPanel;
+class PageBuilder;
+class PrintOptionsPanel;
 class QLabel;
 class QScrollArea;
 class QTimer;
@@ -40,7 +45,7 @@ public:
     // Opens Backup1 modally in a mode for a year's plan file.
     using BackupOpener = std::function<void(int mode, int year)>;
 
-    // `clock` gives today and the clock panel's time.
+    // `clock` gives today, the clock panel's time and the printout's date.
     Zcalandar(Dialogs& dialogs, const Clock& clock, QWidget* parent = nullptr);
     explicit Zcalandar(Dialogs& dialogs, QWidget* parent = nullptr);
     ~Zcalandar() override;
@@ -60,6 +65,9 @@ public:
     DayLinesPanel* linesPanel() const { return lines_; }
     EditListsPanel* editListsPanel() const { return editLists_; }
     CalendarOptionsPanel* optionsPanel() const { return options_; }
+    MenuViewPanel* viewPanel() const { return view_; }
+    PrintOptionsPanel* printPanel() const { return printPanel_; }
+    MenuPrintOptions* printOptions() const { return printOptions_; }
 
 protected:
     bool readyToClose() override;
@@ -108,6 +116,17 @@ private:
     void backupYear();
     void restoreYear();
 
+    // Views and printing (zcalandarview.cpp).
+    void buildPrintPanel(QWidget* area);
+    void openPrintView();
+    void placeViewPanel();
+    void toolbarPrint();
+    void showView();
+    void closePrintView();
+    void openPrintOptions();
+    void leavePrintOptions();
+    void composePrintout(PageBuilder& page);
+
     // Showing the state.
     void setPanel(PlannerPanel panel);
     void applyCommandStates();
@@ -137,4 +156,7 @@ private:
     DayLinesPanel* lines_ = nullptr;
     EditListsPanel* editLists_ = nullptr;
     CalendarOptionsPanel* options_ = nullptr;
+    MenuViewPanel* view_ = nullptr;
+    PrintOptionsPanel* printPanel_ = nullptr;
+    MenuPrintOptions* printOptions_ = nullptr;
 };

@@ -4,6 +4,8 @@
 
 #include "planner/screens/calendaroptionspanel.h"
 #include "planner/screens/editlistspanel.h"
+#include "planner/screens/menuviewpanel.h"
+#include "print/screens/printoptionspanel.h"
 
 namespace {
 
@@ -25,9 +27,9 @@ void Zcalandar::buildCommands(QWidget* buttonPanel)
     commands_ = makeCommands<ZcalandarCommand>(kMenus, commandRows(), buttonPanel);
 }
 
-// The view, printing and copying come with a panel of their own; until then
-// their rows have no routine and stay disabled. Backup and restore have
-// routines only once a backup opener is given.
+// Copying comes with a composition of its own; until then its row has no
+// routine and stays disabled. Backup and restore have routines only once a
+// backup opener is given.
 std::vector<CommandRow<ZcalandarCommand>> Zcalandar::commandRows()
 {
     using enum ZcalandarCommand;
@@ -48,7 +50,7 @@ std::vector<CommandRow<ZcalandarCommand>> Zcalandar::commandRows()
                      .button = {"&Edit Lists", 2}, .toolbar = {Toolbar::Top, kEditLists},
                      .run = [this] { openEditLists(); }, .enabled = rule(&PlannerCommandStates::editLists)}},
         {PrintView, {.name = "mPrintView", .menu = "mOptions", .caption = "&Print/View",
-                     .button = {"&Print/View", 3},
+                     .button = {"&Print/View", 3}, .run = [this] { openPrintView(); },
                      .enabled = rule(&PlannerCommandStates::printView), .shortcut = QKeySequence::Print}},
         {PanelColor, panelColor},
         {TextColor, {.name = "mTextColor", .menu = "mOptions", .caption = "&Text Color",
@@ -63,7 +65,7 @@ std::vector<CommandRow<ZcalandarCommand>> Zcalandar::commandRows()
         // The toolbar's print button opens the view panel, and the print
         // options once the view panel is open.
         {ToolbarPrint, {.name = "mToolbarPrint", .caption = "Print", .toolbar = {Toolbar::Top, kPrint},
-                        .enabled = rule(&PlannerCommandStates::toolbarPrint)}},
+                        .run = [this] { toolbarPrint(); }, .enabled = rule(&PlannerCommandStates::toolbarPrint)}},
         {Backup, {.name = "mBackup", .menu = "mUtilities", .caption = "&Backup Selected Year File to Disk",
                   .enabled = rule(&PlannerCommandStates::backup)}},
         {Restore, {.name = "mRestore", .menu = "mUtilities", .caption = "&Restore Selected Year File from Disk",
@@ -79,11 +81,14 @@ void Zcalandar::setBackupOpener(BackupOpener opener)
     commands_->setRoutine(ZcalandarCommand::Restore, [this] { restoreYear(); });
 }
 
-// Escape closes the panel in front first: the list editor or the calendar
-// options; with none open it is "E&xit".
+// Escape closes what is in front first: the print options (their large
+// view first), the view panel, the list editor, the calendar options; with
+// none open it is "E&xit".
 void Zcalandar::declareEscapeOrder()
 {
     setEscapeOrder({
+        {[this] { return state_.printOptionsOpen; }, [this] { printPanel_->pressEscape(); }},
+        {[this] { return state_.panel == PlannerPanel::PrintView; }, [this] { closePrintView(); }},
         {[this] { return state_.panel == PlannerPanel::EditLists; }, [this] { closeEditLists(); }},
         {[this] { return state_.panel == PlannerPanel::CalendarOptions; }, [this] { closeCalendarOptions(); }},
         {[] { return true; }, [this] { exitPlanner(); }},

@@ -11,6 +11,7 @@
 #include "planner/screens/calendarstrip.h"
 #include "planner/screens/daylinespanel.h"
 #include "planner/screens/editlistspanel.h"
+#include "planner/screens/menuviewpanel.h"
 
 #include <QLineEdit>
 #include <QPushButton>
@@ -155,6 +156,7 @@ void Zcalandar::chooseTextColor()
         return;
     textColor_ = chosen;
     lines_->setTextColor(textColor_);
+    view_->setTextColor(textColor_);
     tellWriteFailed(StorePlannerTextColor(*chosen), QString::fromLatin1(Settings::ZcalandarTextColor.file.name));
 }
 
