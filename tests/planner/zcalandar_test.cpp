@@ -10,6 +10,7 @@
 #include "shell/screens/startfrm.h"
 
 #include <QAbstractItemView>
+#include <QClipboard>
 #include <QDir>
 #include <QSignalSpy>
 #include <QToolBar>
@@ -70,7 +71,7 @@ TEST_F(ZcalandarTest, ADayNeverSavedOpensBlankWithClearEntriesOff)
         EXPECT_EQ(line(*screen, index)->text(), QString()) << index;
     EXPECT_FALSE(act(*screen, "mClearEntries")->isEnabled());
     EXPECT_FALSE(button(*screen, 1)->isEnabled());
-    for (const char* name : {"mSave", "mEditLists", "mPrintView", "mToolbarPrint", "mExit"})
+    for (const char* name : {"mSave", "mEditLists", "mPrintView", "mCopy", "mToolbarPrint", "mExit"})
         EXPECT_TRUE(act(*screen, name)->isEnabled()) << name;
     EXPECT_TRUE(QFile::exists(folder.filePath(QStringLiteral(" 2026.Mnu")))) << "the year was looked at";
 }
@@ -496,12 +497,15 @@ TEST_F(ZcalandarTest, HelpOpensThePlannersPage)
     help->close();
 }
 
-TEST_F(ZcalandarTest, LongDatesFollowTheDayFirstLocaleInPanelAndQuestion)
+TEST_F(ZcalandarTest, LongDatesFollowTheDayFirstLocaleInPanelQuestionAndCopy)
 {
     const PinnedDates dayFirst(kBritain);
     folder.copyIn(TestDataFile(QStringLiteral(" 2026.Mnu")));
     auto screen = openShown();
     EXPECT_EQ(datePanel(*screen), QStringLiteral("Friday, 3 April 2026"));
+    dialogs.expectMessage(QStringLiteral("Copy Option"), QStringLiteral("Data has been copied to the Windows Clipboard."));
+    act(*screen, "mCopy")->trigger();
+    EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith(QStringLiteral("Menu Planner for  Friday, 3 April 2026:\r\n")));
     dialogs.expectMessage(QStringLiteral("Clear Entries"), QStringLiteral("Clear all Entries for Friday, 3 April 2026?"),
                           Answer::No);
     act(*screen, "mClearEntries")->trigger();

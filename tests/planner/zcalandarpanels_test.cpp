@@ -194,7 +194,7 @@ TEST_F(ZcalandarTest, CloseRestoresTheScreen)
     EXPECT_FALSE(screen->editListsPanel()->isVisible());
     EXPECT_EQ(status(*screen), QStringLiteral("Menu Planner"));
     EXPECT_TRUE(line(*screen, 0)->isEnabled());
-    for (const char* name : {"mSave", "mEditLists", "mPrintView", "mCalendarOptions"})
+    for (const char* name : {"mSave", "mEditLists", "mPrintView", "mCopy", "mCalendarOptions"})
         EXPECT_TRUE(act(*screen, name)->isEnabled()) << name;
     EXPECT_TRUE(button(*screen, 2)->hasFocus());
     button(*screen, 2)->click();

@@ -1,5 +1,5 @@
 // The view panel and its table, the print options over it, a printout to
-// PDF, and the order of Escape.
+// PDF, the order of Escape, and the day copied to the clipboard.
 #include "zcalandar_fixture.h"
 
 #include "planner/screens/menuprintoptions.h"
@@ -14,6 +14,7 @@
 #include "raw_slots.h"
 
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDir>
 #include <QHeaderView>
@@ -387,4 +388,38 @@ TEST_F(ZcalandarViewTest, TheGuideLineChoiceIsKeptInGColor3Slot42)
     screen->printPanel()->findChild<QRadioButton*>(QStringLiteral("GuideLineOption_1"))->click();
     EXPECT_TRUE(screen->printPanel()->preview()->guideLines());
     EXPECT_EQ(ReadSlotText(GColor3, 42), QStringLiteral("1"));
+}
+
+// ---- Copying -------------------------------------------------------------------------
+
+TEST_F(ZcalandarViewTest, BlankLinesHaveNoEntriesToCopy)
+{
+    auto screen = openShown();
+    QGuiApplication::clipboard()->setText(QStringLiteral("before"));
+    dialogs.expectMessage(QStringLiteral("Copy"), QStringLiteral("There are currently No Entries to Copy!"));
+    act(*screen, "mCopy")->trigger();
+    EXPECT_EQ(dialogs.messages().last().icon, Icon::Information);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("before"));
+}
+
+TEST_F(ZcalandarViewTest, CopyPutsTheDayOnTheClipboardInColumns)
+{
+    auto screen = openShown();
+    // A font whose every character is as wide as every other, so the padding
+    // counts in characters.
+    screen->setFont(QFont(QStringLiteral("Liberation Mono"), 10));
+    typeInto(line(*screen, 0), QStringLiteral("Eggs"));
+    typeInto(line(*screen, 2), QStringLiteral("Toast and marmalade"));
+    typeInto(line(*screen, 7), QStringLiteral("Soup"));
+    typeInto(line(*screen, 16), QStringLiteral("Pie"));
+    dialogs.expectMessage(QStringLiteral("Copy Option"), QStringLiteral("Data has been copied to the Windows Clipboard."));
+    act(*screen, "mCopy")->trigger();
+    EXPECT_EQ(dialogs.messages().last().icon, Icon::Information);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(),
+              QStringLiteral("Menu Planner for  Friday, April 3, 2026:\r\n"
+                             "\r\n"
+                             "Breakfast          \tLunch\tDinner\r\n"
+                             "\r\n"
+                             "Eggs               \tSoup \t\r\n"
+                             "Toast and marmalade\t     \tPie\r\n"));
 }

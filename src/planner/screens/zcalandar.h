@@ -116,7 +116,7 @@ private:
     void backupYear();
     void restoreYear();
 
-    // Views and printing (zcalandarview.cpp).
+    // Views, printing and copying (zcalandarview.cpp).
     void buildPrintPanel(QWidget* area);
     void openPrintView();
     void placeViewPanel();
@@ -126,6 +126,7 @@ private:
     void openPrintOptions();
     void leavePrintOptions();
     void composePrintout(PageBuilder& page);
+    void copyDay();
 
     // Showing the state.
     void setPanel(PlannerPanel panel);

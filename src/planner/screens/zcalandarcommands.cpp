@@ -27,9 +27,7 @@ void Zcalandar::buildCommands(QWidget* buttonPanel)
     commands_ = makeCommands<ZcalandarCommand>(kMenus, commandRows(), buttonPanel);
 }
 
-// Copying comes with a composition of its own; until then its row has no
-// routine and stays disabled. Backup and restore have routines only once a
-// backup opener is given.
+// Backup and restore have routines only once a backup opener is given.
 std::vector<CommandRow<ZcalandarCommand>> Zcalandar::commandRows()
 {
     using enum ZcalandarCommand;
@@ -61,7 +59,7 @@ std::vector<CommandRow<ZcalandarCommand>> Zcalandar::commandRows()
                            .enabled = rule(&PlannerCommandStates::calendarOptions)}},
         {Exit, exit},
         {Copy, {.name = "mCopy", .menu = "mEdit", .caption = "&Copy", .toolbar = {Toolbar::Top, kCopy},
-                .enabled = rule(&PlannerCommandStates::copy)}},
+                .run = [this] { copyDay(); }, .enabled = rule(&PlannerCommandStates::copy)}},
         // The toolbar's print button opens the view panel, and the print
         // options once the view panel is open.
         {ToolbarPrint, {.name = "mToolbarPrint", .caption = "Print", .toolbar = {Toolbar::Top, kPrint},

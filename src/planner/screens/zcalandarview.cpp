@@ -1,9 +1,11 @@
-// Zcalandar's views and printing: the view panel and its table, and the
-// print options over it.
+// Zcalandar's views, printing and copying: the view panel and its table,
+// the print options over it, and the day on the clipboard.
 #include "planner/screens/zcalandar.h"
 
 #include "common/clock.h"
 #include "common/dialogs.h"
+#include "common/widgets/qtfonts.h"
+#include "planner/logic/menucopy.h"
 #include "planner/logic/menuprint.h"
 #include "planner/logic/menuview.h"
 #include "planner/screens/calendarstrip.h"
@@ -12,9 +14,12 @@
 #include "planner/screens/menuviewpanel.h"
 #include "print/logic/pagebuilder.h"
 #include "print/logic/printfont.h"
+#include "print/screens/fontmeasurer.h"
 #include "print/screens/printoptionspanel.h"
 #include "shell/logic/processvalues.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QPushButton>
 
 namespace {
@@ -142,4 +147,17 @@ void Zcalandar::composePrintout(PageBuilder& page)
     request.familyName = Process().FamilyName;
     request.today = clock_.today();
     ComposeMenuPages(page, request);
+}
+
+// The day's lines as text on the clipboard, padded by the screen's font.
+void Zcalandar::copyDay()
+{
+    const MenuLines lines = lines_->lines();
+    if (AllLinesBlank(lines)) {
+        tell(QStringLiteral("Copy"), QStringLiteral("There are currently No Entries to Copy!"));
+        return;
+    }
+    static const FontMeasurer measurer;
+    QGuiApplication::clipboard()->setText(MenuCopyText(currentDate(), lines, measurer, TextFontOf(font(), 0)));
+    tell(QStringLiteral("Copy Option"), QStringLiteral("Data has been copied to the Windows Clipboard."));
 }
