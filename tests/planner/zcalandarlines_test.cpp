@@ -8,6 +8,7 @@
 #include "shell/kit/droplist.h"
 
 #include <QDir>
+#include <functional>
 
 namespace {
 
@@ -199,4 +200,31 @@ TEST_F(ZcalandarTest, AListThatCannotBeWrittenIsToldAndStaysAsItWas)
     EXPECT_EQ(line(*screen, 10)->text(), QStringLiteral("Gazpacho"));
     EXPECT_TRUE(screen->dirty());
     EXPECT_EQ(bytesOf(QStringLiteral(" 2026.Mnu")), QByteArray()) << "no other file is touched";
+}
+
+// A panel that locks the lines while one of them has the keyboard: the
+// keyboard does not wander down the lines as they are turned off one by one,
+// so no drop-down is left standing on a locked line and the line typed in
+// stays the active one.
+TEST_F(ZcalandarTest, LockingTheLinesLeavesNoDropDownOnThem)
+{
+    auto screen = openShown();
+    const std::pair<const char*, std::function<void()>> panels[] = {
+        {"mCalendarOptions", [&] { act(*screen, "mCalendarOptions")->trigger(); }},
+        {"mEditLists", [&] { act(*screen, "mEditLists")->trigger(); }},
+        {"mPrintView", [&] { act(*screen, "mPrintView")->trigger(); }},
+    };
+    for (const auto& [name, openPanel] : panels) {
+        QTest::mouseClick(line(*screen, 1), Qt::LeftButton);
+        ASSERT_EQ(screen->linesPanel()->dropDownLine(Meal::Breakfast), 1) << name;
+        openPanel();
+        for (const Meal meal : {Meal::Breakfast, Meal::Lunch, Meal::Dinner})
+            EXPECT_EQ(screen->linesPanel()->dropDownLine(meal), -1) << name << " meal " << int(meal);
+        EXPECT_EQ(screen->lineEntry().activeLine(), 1) << name;
+        for (int index = 0; index < kMenuLines; ++index)
+            EXPECT_FALSE(line(*screen, index)->hasFocus()) << name << " line " << index;
+        ASSERT_NE(QApplication::focusWidget(), nullptr) << name;
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        ASSERT_TRUE(line(*screen, 1)->isEnabled()) << name;
+    }
 }

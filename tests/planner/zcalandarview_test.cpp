@@ -271,6 +271,10 @@ TEST_F(ZcalandarViewTest, TheToolbarsPrintOpensThePrintOptionsOnTheViewPanel)
     EXPECT_TRUE(screen->printOptions()->gridLines());
     EXPECT_EQ(screen->printOptions()->printDateBox()->text(), QStringLiteral("Print Date on each page"));
     EXPECT_EQ(screen->printOptions()->gridLinesBox()->text(), QStringLiteral("Print Grid Lines"));
+    for (const Page& page : panel->document().pages) {
+        for (const TextItem& text : page.texts())
+            EXPECT_EQ(text.font.name, QStringLiteral("Times New Roman")) << text.text.toStdString();
+    }
     const QStringList texts = panel->document().allTexts();
     EXPECT_TRUE(texts.contains(QStringLiteral(" Friday, April 3, 2026")));
     EXPECT_TRUE(texts.contains(QStringLiteral(" Breakfast of day 1")));

@@ -119,12 +119,19 @@ void DayLinesPanel::openDropDown(int index)
 
 void DayLinesPanel::setLinesOpen(bool open)
 {
+    if (!open) {
+        // A line turned off with the keyboard in it passes the keyboard to
+        // the next line, and so on down all of them, each taking its meal's
+        // drop-down as it passes: the keyboard leaves the lines first, and
+        // the drop-downs go until a line is entered again.
+        for (QLineEdit* line : lines_) {
+            if (line->hasFocus())
+                line->clearFocus();
+        }
+        hideDropDowns();
+    }
     for (QLineEdit* line : lines_)
         line->setEnabled(open);
-    if (!open) {
-        for (DropList* list : dropLists_)
-            list->hide();
-    }
 }
 
 void DayLinesPanel::setTextColor(std::optional<qint32> color)

@@ -38,7 +38,7 @@ public:
     // Opens the meal's list over the line.
     void openDropDown(int index);
 
-    // Locked lines take no input and no tab stop.
+    // Locked lines take no input and no tab stop, and show no drop-down.
     void setLinesOpen(bool open);
     // The text colour of the lines; nothing: the desktop's.
     void setTextColor(std::optional<qint32> color);
