@@ -159,6 +159,26 @@ TEST_F(MenuPrintTest, WithoutGridLinesNoLineIsDrawn)
         EXPECT_TRUE(LinesOf(page).isEmpty());
 }
 
+// The tops of a document's first 100 blocks are remembered for their column
+// separators; a block past them has no top to start from and is not parted.
+TEST_F(MenuPrintTest, OnlyTheFirstHundredBlocksArePartedIntoColumns)
+{
+    request.following = 119;
+    const PageDocument document = compose([](QDate) { return FullDay(1); });
+    int separators = 0;
+    for (const Page& page : document.pages) {
+        for (const LineItem& line : LinesOf(page)) {
+            if (line.x1 == line.x2) {
+                EXPECT_GE(line.y1, 200);
+                ++separators;
+            }
+        }
+    }
+    EXPECT_EQ(separators, 2 * 100);
+    // The last day still has its block, only without separators.
+    EXPECT_NE(document.pages.last().findText(QStringLiteral(" Friday, July 31, 2026")), nullptr);
+}
+
 TEST_F(MenuPrintTest, ADayNeverSavedTakesOneLine)
 {
     request.following = 1;

@@ -186,6 +186,27 @@ TEST_F(ZcalandarTest, AnItemThatCannotBeWrittenStaysInTheBox)
     EXPECT_EQ(panel->itemList()->count(), 0);
 }
 
+// The list's file turned into a folder after the editor read it: the
+// delete is told, and the list and the box keep the item.
+TEST_F(ZcalandarTest, ADeleteThatCannotBeWrittenKeepsTheItem)
+{
+    folder.copyIn(TestDataFile(QStringLiteral("Menu1.Fil")));
+    auto screen = openShown();
+    button(*screen, 2)->click();
+    EditListsPanel* panel = screen->editListsPanel();
+    Pick(panel->itemList(), QStringLiteral("Bagel"));
+    ASSERT_TRUE(QFile::remove(folder.filePath(QStringLiteral("Menu1.Fil"))));
+    ASSERT_TRUE(QDir().mkdir(QStringLiteral("Menu1.Fil")));
+    expectWriteFailed(QStringLiteral("Menu1.Fil"));
+    panel->button(EditListsPanel::kDelete)->click();
+    EXPECT_TRUE(dialogs.scriptDone());
+    EXPECT_EQ(screen->list(Meal::Breakfast).count(), 7);
+    EXPECT_TRUE(ItemsOf(panel->itemList()).contains(QStringLiteral("Bagel")));
+    EXPECT_EQ(screen->linesPanel()->dropList(Meal::Breakfast)->count(), 7);
+    EXPECT_EQ(panel->newItemBox()->text(), QStringLiteral("Bagel"));
+    EXPECT_TRUE(panel->button(EditListsPanel::kDelete)->isEnabled()) << "the delete may be tried again";
+}
+
 TEST_F(ZcalandarTest, CloseRestoresTheScreen)
 {
     auto screen = openShown();
@@ -313,6 +334,20 @@ TEST_F(ZcalandarTest, TheTextColourColoursTheLinesAndTheViewAndIsStored)
     EXPECT_EQ(bytesOf(QStringLiteral("GColor2.Fil")), expected);
     auto again = open();
     EXPECT_EQ(again->linesPanel()->line(0)->palette().color(QPalette::Text), QColor(255, 0, 0));
+}
+
+TEST_F(ZcalandarTest, ATextColourThatCannotBeStoredIsTold)
+{
+    ASSERT_TRUE(QDir().mkdir(QStringLiteral("GColor2.Fil")));
+    folder.copyIn(TestDataFile(QStringLiteral("SWR2.fil")));
+    const QByteArray options = bytesOf(QStringLiteral("SWR2.fil"));
+    auto screen = openShown();
+    dialogs.expectColor(255);
+    expectWriteFailed(QStringLiteral("GColor2.Fil"));
+    act(*screen, "mTextColor")->trigger();
+    EXPECT_TRUE(dialogs.scriptDone());
+    EXPECT_EQ(line(*screen, 3)->palette().color(QPalette::Text), QColor(255, 0, 0)) << "kept while the screen is open";
+    EXPECT_EQ(bytesOf(QStringLiteral("SWR2.fil")), options) << "no other file is touched";
 }
 
 TEST_F(ZcalandarTest, TheViewTableTakesTheSharedGridBackgroundButNotItsTextColour)

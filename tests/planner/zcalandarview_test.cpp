@@ -106,6 +106,21 @@ TEST_F(ZcalandarViewTest, UnsavedLinesAreOfferedForSavingAndCancelLeavesThePanel
     EXPECT_FALSE(screen->dirty());
 }
 
+TEST_F(ZcalandarViewTest, ASaveThatFailsAtTheQuestionLeavesThePanelClosed)
+{
+    ASSERT_TRUE(QDir().mkdir(QStringLiteral(" 2026.Mnu")));
+    auto screen = openShown();
+    typeInto(line(*screen, 0), QStringLiteral("Omelette"));
+    dialogs.expectMessage(kPrintViewQuestion.title, kPrintViewQuestion.text, Answer::Yes);
+    expectWriteFailed(QStringLiteral(" 2026.Mnu"));
+    act(*screen, "mPrintView")->trigger();
+    EXPECT_TRUE(dialogs.scriptDone());
+    EXPECT_FALSE(view(*screen)->isVisible());
+    EXPECT_EQ(screen->state().panel, PlannerPanel::None);
+    EXPECT_TRUE(screen->dirty());
+    EXPECT_EQ(line(*screen, 0)->text(), QStringLiteral("Omelette"));
+}
+
 TEST_F(ZcalandarViewTest, NoAtTheQuestionDropsTheLinesWhenThePanelCloses)
 {
     auto screen = openShown();

@@ -31,8 +31,6 @@ public:
     void select(QDate date);
     // Invalid when no day is selected.
     QDate selectedDate() const { return selected_; }
-    // The month of the first calendar (its first day).
-    QDate firstMonth() const { return first_; }
 
     QCalendarWidget* calendar(int index) const { return calendars_[size_t(index)]; }
     QLabel* todayLine() const { return today_; }
