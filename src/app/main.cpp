@@ -2,6 +2,7 @@
 #include "common/programfolder.h"
 #include "guides/screens/convform.h"
 #include "guides/screens/foodg.h"
+#include "planner/screens/zcalandar.h"
 #include "recipetools/screens/form5.h"
 #include "shell/kit/qtdialogs.h"
 #include "shell/logic/deliveredfiles.h"
@@ -42,6 +43,7 @@ int main(int argc, char** argv)
     startfrm.registerActivity(MainCommand::MeasGuide, [&dialogs] { return new Convform(dialogs); });
     startfrm.registerActivity(MainCommand::Emergency,
                               [&dialogs] { return new Form24(dialogs, StorageKind::Emergency); });
+    startfrm.registerActivity(MainCommand::MenuPlanner, [&dialogs] { return new Zcalandar(dialogs); });
     QObject::connect(&startfrm, &Startfrm::exitConfirmed, &app, [] { QApplication::exit(0); });
     startfrm.show();
     return app.exec();

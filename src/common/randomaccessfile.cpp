@@ -57,3 +57,13 @@ bool RandomAccessFile::writeRecords(qint64 firstRecord, QByteArrayView bytes)
     FileWriteSeam::held(file_.fileName());
     return true;
 }
+
+bool RandomAccessFile::writePart(qint64 recordNumber, QByteArrayView bytes)
+{
+    if (recordNumber < 1 || !file_.isOpen() || !file_.isWritable())
+        return false;
+    const QByteArrayView part = bytes.first(std::min<qsizetype>(bytes.size(), recordLength_));
+    if (!file_.seek((recordNumber - 1) * recordLength_))
+        return false;
+    return file_.write(part.data(), part.size()) == part.size() && file_.flush();
+}

@@ -30,6 +30,10 @@ public:
     // Consecutive whole records from `firstRecord` in one write; `bytes` is
     // zero-padded to a whole number of records.
     bool writeRecords(qint64 firstRecord, QByteArrayView bytes);
+    // Writes `bytes` (at most a record) at the start of the record and
+    // nothing else: the rest of the record keeps what it holds, and a write
+    // past the end extends the file only to the last byte written.
+    bool writePart(qint64 recordNumber, QByteArrayView bytes);
 
 private:
     QFile file_;

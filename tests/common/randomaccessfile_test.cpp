@@ -6,6 +6,7 @@
 #include "common/slotvalues.h"
 #include "temp_program_folder.h"
 
+#include <QDir>
 #include <QFile>
 #include <gtest/gtest.h>
 #include <random>
@@ -61,6 +62,37 @@ TEST(RandomAccessFile, WritingNeverShrinksAndTouchesOnlyItsRecord)
         EXPECT_FALSE(file.write(0, "zz"));
     }
     EXPECT_EQ(folder.bytesOf("Keep.fil"), QByteArray("1111ab\0\0" "3333", 12));
+}
+
+TEST(RandomAccessFile, APartWriteLeavesTheRestOfItsRecord)
+{
+    TempProgramFolder folder;
+    folder.writeBytes("Part.fil", "111122223333");
+    {
+        RandomAccessFile file("Part.fil", 4);
+        ASSERT_TRUE(file.writePart(2, "ab"));
+        EXPECT_FALSE(file.writePart(0, "zz"));
+    }
+    EXPECT_EQ(folder.bytesOf("Part.fil"), "1111ab223333");
+}
+
+TEST(RandomAccessFile, APartWritePastTheEndEndsTheFileAtItsLastByte)
+{
+    TempProgramFolder folder;
+    {
+        RandomAccessFile file("Tail.fil", 5);
+        ASSERT_TRUE(file.writePart(3, "xyz"));
+        ASSERT_TRUE(file.writePart(1, "abcdefgh")) << "cut to one record";
+    }
+    EXPECT_EQ(folder.bytesOf("Tail.fil"), QByteArray("abcde\0\0\0\0\0xyz", 13));
+}
+
+TEST(RandomAccessFile, APartWriteIntoAFolderFails)
+{
+    TempProgramFolder folder;
+    ASSERT_TRUE(QDir().mkdir("Dir.fil"));
+    RandomAccessFile file("Dir.fil", 5);
+    EXPECT_FALSE(file.writePart(1, "abc"));
 }
 
 TEST(RandomAccessFile, ARecordTooLongIsCutToTheRecordLength)

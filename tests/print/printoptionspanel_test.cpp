@@ -9,6 +9,7 @@
 #include "print/screens/pagepreview.h"
 #include "print/screens/printoptionspanel.h"
 #include "shell/settings/settingsregistry.h"
+#include "common/writefailure.h"
 
 #include "fit_check.h"
 #include "pdf_text.h"
@@ -17,6 +18,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -26,8 +28,6 @@
 #include <QVBoxLayout>
 #include <QSignalSpy>
 #include <QTest>
-#include "common/writefailure.h"
-#include <QDir>
 #include <gtest/gtest.h>
 
 namespace {
@@ -214,6 +214,22 @@ TEST_F(PanelFixture, ExitStoresTheFontWhereTheScreenKeepsIt)
     EXPECT_EQ(bytes.left(25 * 40), QByteArray(25 * 40, '\0')) << "no other slot is written";
 }
 
+TEST_F(PanelFixture, AFontThatCannotBeStoredIsToldAndThePanelStaysOpen)
+{
+    ASSERT_TRUE(QDir().mkdir(QStringLiteral("GColor4.Fil")));
+    panel->setFontSlots({Settings::ZcalandarPrintFontName, Settings::ZcalandarPrintFontSize});
+    panel->open();
+    QSignalSpy exited(panel, &PrintOptionsPanel::exited);
+    const Message failed = WriteFailedMessage(QStringLiteral("GColor4.Fil"));
+    dialogs.expectMessage(failed.title, failed.text);
+    panel->command(PrintOptionsPanel::kExitPrintOptions)->click();
+    ASSERT_EQ(dialogs.messages().size(), 1);
+    EXPECT_EQ(dialogs.messages()[0], failed);
+    EXPECT_TRUE(panel->isVisible());
+    EXPECT_EQ(exited.count(), 0);
+    EXPECT_TRUE(dialogs.scriptDone());
+}
+
 TEST_F(PanelFixture, ExitStoresNoFontForAScreenWithoutSlots)
 {
     panel->open();
@@ -337,14 +353,11 @@ TEST(PagePainter, PaintsTheTextWhereTheDocumentPutsIt)
     EXPECT_LE(firstDark, 366);
 }
 
-TEST_F(PanelFixture, AFontThatCannotBeStoredIsSaidAndThePanelStillCloses)
+TEST_F(PanelFixture, ThePanelFitsAScreenOf800By600)
 {
-    panel->setFontSlots({Settings::ZcalandarPrintFontName, Settings::ZcalandarPrintFontSize});
+    screen.resize(800, 600);
+    panel->setGeometry(screen.rect());
     panel->open();
-    ASSERT_TRUE(QDir().mkdir(QStringLiteral("GColor4.Fil")));
-    const Message failed = WriteFailedMessage(QStringLiteral("GColor4.Fil"));
-    dialogs.expectMessage(failed.title, failed.text);
-    panel->command(PrintOptionsPanel::kExitPrintOptions)->click();
-    EXPECT_TRUE(dialogs.scriptDone());
-    EXPECT_FALSE(panel->isVisible());
+    QApplication::processEvents();
+    EXPECT_EQ(FitProblems(&screen).join(u'\n').toStdString(), "");
 }

@@ -1,6 +1,7 @@
 #include "print/screens/printoptionspanel.h"
 
 #include "common/dialogs.h"
+#include "common/programfolder.h"
 #include "common/writefailure.h"
 #include "common/widgets/qtcolors.h"
 #include "common/widgets/qtfonts.h"
@@ -228,8 +229,12 @@ void PrintOptionsPanel::exitPrintOptions()
 {
     if (preview_->large())
         toggleLarge();
-    if (fontSlots_ && !StorePrintFont(*fontSlots_, PrintFont()))
-        dialogs_.ask(WriteFailedMessage(fontSlots_->name.file.name));
+    // A font that cannot be stored is told, and the panel stays open: the
+    // font is still the process's, and the user may try again.
+    if (fontSlots_ && !StorePrintFont(*fontSlots_, PrintFont())) {
+        dialogs_.ask(WriteFailedMessage(ResolveFileName(QString::fromLatin1(fontSlots_->name.file.name))));
+        return;
+    }
     // The screen takes the keyboard back while the panel is still up, so
     // that hiding it does not pass the focus on to whatever comes next.
     emit exited();

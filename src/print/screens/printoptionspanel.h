@@ -40,7 +40,8 @@ public:
     // A group of the screen's own options, placed under the panel's.
     void addOptionGroup(QWidget* group);
     // The slots where "&Exit Print Options" stores the font's name and size,
-    // for the screens that keep them.
+    // for the screens that keep them. A failed write is told and keeps the
+    // panel open.
     void setFontSlots(const PrintFontSlots& where) { fontSlots_ = where; }
 
     // Loads the guide line option, shows the font, composes and shows the panel.

@@ -43,13 +43,19 @@ void DropList::dismiss()
     }
 }
 
+// The box takes the keyboard back before the list hides: a list hidden with
+// the keyboard would pass it on to whatever comes next, as if the user had
+// tabbed there.
 void DropList::pick(int row)
 {
     if (row < 0 || !box_)
         return;
     QLineEdit* box = box_;
+    const QString text = item(row)->text();
+    emit givingFocusBack(box);
+    box->setFocus(Qt::OtherFocusReason);
     hide();
-    emit picked(box, row, item(row)->text());
+    emit picked(box, row, text);
 }
 
 void DropList::keyPressEvent(QKeyEvent* event)

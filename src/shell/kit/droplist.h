@@ -19,7 +19,8 @@ public:
 
 signals:
     void picked(QLineEdit* box, int index, const QString& text);
-    // The list closed without a pick and gives the keyboard back to its box.
+    // The list gives the keyboard back to its box: it closed without a
+    // pick, or a pick follows.
     void givingFocusBack(QLineEdit* box);
 
 protected:
