@@ -1,6 +1,9 @@
 #include "common/widgets/qtfonts.h"
 
+#include <QFontDatabase>
 #include <gtest/gtest.h>
+
+#include <utility>
 
 TEST(QtFonts, EveryStyleGoesIntoTheQtFont)
 {
@@ -28,4 +31,27 @@ TEST(QtFonts, TheWayBackKeepsEverythingAndTakesTheColour)
     const TextFont font{QStringLiteral("Liberation Serif"), 11, false, true, false, true, 0x800000};
     EXPECT_EQ(TextFontOf(QFontOf(font), 0x800000), font);
     EXPECT_EQ(TextFontOf(QFontOf(font), 0).color, 0);
+}
+
+TEST(FontStandIns, AClassicNameThatIsNotInstalledIsShownAsTheFaceOfItsMeasures)
+{
+    for (const auto& [classic, face] : {std::pair{"Times New Roman", "Liberation Serif"},
+                                        std::pair{"Arial", "Liberation Sans"},
+                                        std::pair{"Courier New", "Liberation Mono"}}) {
+        const QString name = QString::fromLatin1(classic);
+        if (QFontDatabase::hasFamily(name)) {
+            EXPECT_EQ(InstalledFamilyOf(name), name);
+            EXPECT_EQ(StoredFamilyOf(name), name);
+        } else {
+            ASSERT_TRUE(QFontDatabase::hasFamily(QString::fromLatin1(face))) << face;
+            EXPECT_EQ(InstalledFamilyOf(name), QString::fromLatin1(face));
+            EXPECT_EQ(StoredFamilyOf(QString::fromLatin1(face)), name);
+        }
+    }
+}
+
+TEST(FontStandIns, OtherNamesAreLeftAsTheyAre)
+{
+    EXPECT_EQ(InstalledFamilyOf(QStringLiteral("No Such Face")), QStringLiteral("No Such Face"));
+    EXPECT_EQ(StoredFamilyOf(QStringLiteral("DejaVu Sans")), QStringLiteral("DejaVu Sans"));
 }

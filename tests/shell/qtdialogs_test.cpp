@@ -1,6 +1,7 @@
 // The real dialogs show exactly the title, text, icon, buttons and default
 // asked for, and answer with the classic numbers; the folder chooser gives
 // the folder or nothing.
+#include "common/widgets/qtfonts.h"
 #include "shell/kit/folderchooser.h"
 #include "shell/kit/qtdialogs.h"
 
@@ -9,6 +10,7 @@
 #include <QColorDialog>
 #include <QDialogButtonBox>
 #include <QDir>
+#include <QFontDialog>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QListView>
@@ -180,4 +182,49 @@ TEST(QtDialogs, CancelledFolderChooserGivesNothing)
         dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel)->click();
     });
     EXPECT_EQ(dialogs.chooseFolder({"Restore", root.path()}), std::nullopt);
+}
+
+TEST(QtDialogs, FontDialogOpensOnTheCurrentFontAndKeepsItsClassicName)
+{
+    QtDialogs dialogs;
+    QString offered;
+    double offeredSize = 0;
+    WhenModalShows([&](QWidget* modal) {
+        auto* fonts = modal->findChild<QFontDialog*>();
+        ASSERT_NE(fonts, nullptr);
+        offered = fonts->currentFont().family();
+        offeredSize = fonts->currentFont().pointSizeF();
+        static_cast<QDialog*>(modal)->accept();
+    });
+    const std::optional<TextFont> chosen =
+        dialogs.chooseFont(TextFont{QStringLiteral("Times New Roman"), 14, true, false, false, false, 0});
+    EXPECT_EQ(offered, InstalledFamilyOf(QStringLiteral("Times New Roman")));
+    EXPECT_NE(offered, QString());
+    EXPECT_EQ(offeredSize, 14);
+    ASSERT_TRUE(chosen.has_value());
+    EXPECT_EQ(chosen->name, QStringLiteral("Times New Roman"));
+    EXPECT_EQ(chosen->size, 14);
+    EXPECT_TRUE(chosen->bold);
+}
+
+TEST(QtDialogs, EscapeInTheFontListsCancelsTheWholeFontDialog)
+{
+    QtDialogs dialogs;
+    bool stillUp = true;
+    WhenModalShows([&](QWidget* modal) {
+        auto* fonts = modal->findChild<QFontDialog*>();
+        ASSERT_NE(fonts, nullptr);
+        QWidget* list = fonts->findChild<QListView*>();
+        ASSERT_NE(list, nullptr);
+        QTest::keyClick(list, Qt::Key_Escape);
+        QTimer::singleShot(0, [&] {
+            QWidget* left = QApplication::activeModalWidget();
+            stillUp = left != nullptr;
+            if (auto* dialog = qobject_cast<QDialog*>(left))
+                dialog->reject();
+        });
+    });
+    EXPECT_EQ(dialogs.chooseFont(TextFont{QStringLiteral("Arial"), 10, false, false, false, false, 0}), std::nullopt);
+    QApplication::processEvents();
+    EXPECT_FALSE(stillUp);
 }

@@ -78,7 +78,14 @@ public:
         fonts_ = new QFontDialog(this);
         fonts_->setWindowFlags(Qt::Widget);
         fonts_->setOptions(QFontDialog::NoButtons | QFontDialog::DontUseNativeDialog);
-        fonts_->setCurrentFont(QFontOf(initial));
+        // Opens on the current font, found under the face that stands in
+        // for it when the classic name is not installed.
+        QFont shown = QFontOf(initial);
+        shown.setFamily(InstalledFamilyOf(initial.name));
+        fonts_->setCurrentFont(shown);
+        // Escape or Enter inside the font lists ends the whole dialog, not
+        // just the lists held in it.
+        connect(fonts_, &QDialog::finished, this, &QDialog::done);
         layout->addWidget(fonts_);
         auto* colorRow = new QFormLayout;
         colors_ = new QComboBox(this);
@@ -105,7 +112,9 @@ public:
 
     TextFont chosen() const
     {
-        return TextFontOf(fonts_->currentFont(), colors_->currentData().toInt());
+        TextFont font = TextFontOf(fonts_->currentFont(), colors_->currentData().toInt());
+        font.name = StoredFamilyOf(font.name);
+        return font;
     }
 
 private:
