@@ -7,6 +7,7 @@
 #include "shell/logic/deliveredfiles.h"
 #include "shell/screens/screenmetrics.h"
 #include "shell/screens/startfrm.h"
+#include "shopping/screens/shoplist.h"
 
 #include <QApplication>
 
@@ -23,6 +24,7 @@ int main(int argc, char** argv)
     startfrm.registerActivity(MainCommand::RecipeFiles, [&dialogs] { return new Form5(dialogs); });
     startfrm.registerActivity(MainCommand::FoodGuide, [&dialogs] { return new Foodg(dialogs); });
     startfrm.registerActivity(MainCommand::MeasGuide, [&dialogs] { return new Convform(dialogs); });
+    startfrm.registerActivity(MainCommand::ShoppingList, [&dialogs] { return new Shoplist(dialogs); });
     QObject::connect(&startfrm, &Startfrm::exitConfirmed, &app, [] { QApplication::exit(0); });
     startfrm.show();
     return app.exec();

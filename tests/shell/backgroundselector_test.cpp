@@ -437,3 +437,22 @@ TEST_F(BackgroundSelectorTest, UseAboveIsDisabledAgainWhenThePanelReopens)
     openSelector(*form);
     EXPECT_FALSE(command(*form, 2)->isEnabled());
 }
+
+TEST_F(BackgroundSelectorTest, AScreensOwnStoreKeepsTheChoiceAndTheMainBackgroundStaysAsItWas)
+{
+    QWidget area;
+    area.resize(1400, 1000);
+    area.show();
+    BackgroundSelector panel(dialogs, &area);
+    QList<Background> stored;
+    panel.setStore([&stored](const Background& chosen) { stored.append(chosen); });
+    panel.toggle(Background::colorOf(255));
+    QTest::mouseClick(panel.thumbnail(3), Qt::LeftButton);
+    panel.findChild<QPushButton*>("Command2_2")->click();
+    panel.toggle(Background::pictureOf(4));
+    panel.findChild<QPushButton*>("Command2_1")->click();
+    ASSERT_EQ(stored.size(), 2);
+    EXPECT_EQ(stored[0], Background::pictureOf(4));
+    EXPECT_EQ(stored[1], Background::standard());
+    EXPECT_TRUE(folder.bytesOf("GQORB1.Fil").isEmpty()) << "the main background is not touched";
+}

@@ -232,7 +232,7 @@ void BackgroundSelector::selectColorBackground()
     const std::optional<qint32> color = dialogs_.chooseColor(initial);
     if (color) {
         current_ = Background::colorOf(*color);
-        StoreBackground(current_);
+        store_(current_);
         emit backgroundChosen(current_);
     } else {
         emit previewBackground(current_);
@@ -244,7 +244,7 @@ void BackgroundSelector::selectColorBackground()
 void BackgroundSelector::useDefaultBackground()
 {
     current_ = Background::standard();
-    StoreBackground(current_);
+    store_(current_);
     emit backgroundChosen(current_);
     choice_.clear();
     closePanel();
@@ -255,7 +255,7 @@ void BackgroundSelector::useAboveBackground()
     if (choice_.isEmpty())
         return;
     current_ = Background{Background::Kind::Picture, kDefaultBackgroundColor, choice_};
-    StoreBackground(current_);
+    store_(current_);
     emit backgroundChosen(current_);
     choice_.clear();
     closePanel();

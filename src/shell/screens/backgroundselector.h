@@ -8,6 +8,7 @@
 #include "shell/logic/background.h"
 
 #include <QFrame>
+#include <functional>
 
 class Dialogs;
 class QLabel;
@@ -22,6 +23,11 @@ public:
 
     // The panel lies over `area`, centred on it.
     BackgroundSelector(Dialogs& dialogs, QWidget* area);
+
+    // Where a chosen background is kept: the main background's slot, unless
+    // a screen keeps its choice elsewhere (the shopping list's grid).
+    using Store = std::function<void(const Background& chosen)>;
+    void setStore(Store store) { store_ = std::move(store); }
 
     // "&Background Selector": opens the panel on the current background, or
     // closes it when it is open.
@@ -65,6 +71,7 @@ private:
     QWidget* area_;
     Background current_;
     QString choice_;
+    Store store_ = StoreBackground;
     QLabel* thumbnails_[kThumbnailCount] = {};
     QFrame* marker_ = nullptr;
     QPushButton* useAbove_ = nullptr;

@@ -1,0 +1,56 @@
+// The shopping list screen in a window of 800 by 600 with each of its panels
+// open, and the order in which Escape closes them.
+#include "shoplist_fixture.h"
+
+#include "fit_check.h"
+
+#include "shell/kit/popupcalendar.h"
+#include "shell/screens/backgroundselector.h"
+#include "shopping/screens/amountpanel.h"
+
+class ShoplistFitTest : public ShoplistTest {
+protected:
+    std::unique_ptr<Shoplist> openSmall()
+    {
+        auto form = open();
+        form->resize(800, 600);
+        QCoreApplication::processEvents();
+        return form;
+    }
+};
+
+TEST_F(ShoplistFitTest, TheScreenFitsAWindowOf800By600)
+{
+    auto form = openSmall();
+    EXPECT_EQ(FitProblems(form.get()), QStringList());
+}
+
+TEST_F(ShoplistFitTest, TheAmountPanelFits)
+{
+    auto form = openSmall();
+    addItem(*form, "Milk");
+    clickCell(*form, 1, 1);
+    ASSERT_TRUE(form->amountPanel()->isVisible());
+    EXPECT_EQ(FitProblems(form.get()), QStringList());
+}
+
+TEST_F(ShoplistFitTest, EscapeClosesTheCalendarAndTheBackgroundSelectorThenAsksToExit)
+{
+    auto form = open();
+    addItem(*form, "Milk");
+    // The calendar, then the grid's background selector.
+    QTest::mouseClick(dateBox(*form), Qt::LeftButton);
+    ASSERT_TRUE(form->calendar()->isOpen());
+    form->pressEscape();
+    EXPECT_FALSE(form->calendar()->isOpen());
+    EXPECT_EQ(dateBox(*form)->text(), "11/15/26");
+    act(*form, "mGridBackground")->trigger();
+    ASSERT_TRUE(form->gridBackgroundSelector()->isOpen());
+    form->pressEscape();
+    EXPECT_FALSE(form->gridBackgroundSelector()->isOpen());
+    // With nothing open Escape is "E&xit", question and all.
+    dialogs.expectMessage("Grocery List", "Save changes made to Grocery Item Grid before exiting?", Answer::No);
+    form->pressEscape();
+    EXPECT_EQ(dialogs.messages().last().buttons, Buttons::YesNoCancel);
+    EXPECT_FALSE(form->isVisible());
+}

@@ -1,0 +1,158 @@
+// The edge cases of the shopping list and its files, one named test each,
+// walked on the screen as the user meets them.
+#include "shoplist_fixture.h"
+
+#include "test_data.h"
+
+#include <QDir>
+#include <QRadioButton>
+
+namespace {
+
+QByteArray Lines(const QList<QByteArray>& values)
+{
+    QByteArray bytes;
+    for (const QByteArray& value : values)
+        bytes += '"' + value + "\"\r\n";
+    return bytes;
+}
+
+QByteArray ListBytes(const QList<std::pair<QByteArray, QByteArray>>& filled, int rows = 15)
+{
+    QList<QByteArray> values;
+    for (const auto& [item, amount] : filled)
+        values << item << amount;
+    for (int row = int(filled.size()); row < rows; ++row)
+        values << "" << "";
+    return Lines(values);
+}
+
+const QString kReplace = "15Nov26.lst\nThis file already already exists.\nDo you want to replace it?";
+
+} // namespace
+
+class ShoppingEdgeCases : public ShoplistTest {};
+
+// ---- The list and its files ----------------------------------------------------------
+
+TEST_F(ShoppingEdgeCases, SavingTwiceOnOneDateOffersReplacementAndNoLeavesTheOldFileByteForByte)
+{
+    auto form = open();
+    addItem(*form, "Milk");
+    act(*form, "mSave")->trigger();
+    const QByteArray first = folder.bytesOf("15Nov26.Lst");
+    ASSERT_EQ(first, ListBytes({{"  Milk", ""}}));
+    addItem(*form, "Eggs");
+    dialogs.expectMessage("Save .lst File", kReplace, Answer::No);
+    act(*form, "mSave")->trigger();
+    EXPECT_EQ(folder.bytesOf("15Nov26.Lst"), first);
+    EXPECT_TRUE(form->list().dirty());
+}
+
+TEST_F(ShoppingEdgeCases, AnItemWithAmountReadFromAListKeepsTheAmountOnTheRightRowInBothDisplayModes)
+{
+    folder.writeBytes("15Nov26.Lst",
+                      ListBytes({{"  Milk", "2 Gallons"}, {"  apples", ""}, {"  Cheese", "1 Pound"}}));
+    auto form = open();
+    chooser.expect(ListChoice::Open, "15Nov26.Lst");
+    act(*form, "mOpenList")->trigger();
+    const auto rows = [&] {
+        QStringList shown;
+        for (int row = 1; row <= 3; ++row)
+            shown << cell(*form, row, 0) + "|" + cell(*form, row, 1);
+        return shown;
+    };
+    EXPECT_EQ(rows(), QStringList({"  Milk|2 Gallons", "  apples|", "  Cheese|1 Pound"}));
+    form->findChild<QRadioButton*>("Option1_1")->click();
+    EXPECT_EQ(rows(), QStringList({"  apples|", "  Cheese|1 Pound", "  Milk|2 Gallons"}));
+    form->findChild<QRadioButton*>("Option1_0")->click();
+    EXPECT_EQ(rows(), QStringList({"  Milk|2 Gallons", "  apples|", "  Cheese|1 Pound"}));
+}
+
+TEST_F(ShoppingEdgeCases, DeletingARowInAlphabeticalModeRemovesTheRightEntryFromEntryList)
+{
+    auto form = open();
+    for (const char* name : {"pears", "Apples", "milk", "Bread"})
+        addItem(*form, name);
+    form->findChild<QRadioButton*>("Option1_1")->click();
+    ASSERT_EQ(cell(*form, 3, 0), "  milk");
+    clickCell(*form, 3, 0);
+    dialogs.expectMessage("Delete Row", "Delete Item and Amount for - \n  milk, ?", Answer::Yes);
+    act(*form, "mDeleteItem")->trigger();
+    EXPECT_EQ(form->list().entryList(), QStringList({"pears", "Apples", "Bread"}));
+    EXPECT_EQ(cell(*form, 3, 0), "  pears");
+}
+
+TEST_F(ShoppingEdgeCases, SwitchingTheDisplayModeOfANonEmptyListTurnsOnTheQuestionAboutUnsavedChanges)
+{
+    folder.copyIn(TestDataFile("15Nov26.Lst"));
+    auto form = open();
+    chooser.expect(ListChoice::Open, "15Nov26.Lst");
+    act(*form, "mOpenList")->trigger();
+    ASSERT_FALSE(form->list().dirty());
+    form->findChild<QRadioButton*>("Option1_1")->click();
+    EXPECT_TRUE(form->list().dirty());
+    dialogs.expectMessage("Grocery List", "Save changes made to Grocery Item Grid before exiting?", Answer::Cancel);
+    act(*form, "mExit")->trigger();
+    EXPECT_TRUE(form->isVisible());
+}
+
+TEST_F(ShoppingEdgeCases, ADigitPressedAfter1DozenReplacesTheWholeAmount)
+{
+    auto form = open();
+    addItem(*form, "Eggs");
+    clickCell(*form, 1, 1);
+    button(*form, "Command3_1")->click();
+    button(*form, "Command4_5")->click();
+    ASSERT_EQ(amountBox(*form)->text(), "1 Dozen");
+    button(*form, "Command3_2")->click();
+    EXPECT_EQ(amountBox(*form)->text(), "2");
+}
+
+TEST_F(ShoppingEdgeCases, AUnitPressedAfter2Gives2BagsAfter1Or1BagAndOnNothingABlankAndBag)
+{
+    auto form = open();
+    addItem(*form, "Chips");
+    clickCell(*form, 1, 1);
+    button(*form, "Command3_2")->click();
+    button(*form, "Command4_0")->click();
+    EXPECT_EQ(amountBox(*form)->text(), "2 Bags");
+    button(*form, "Command5_1")->click();
+    button(*form, "Command3_1")->click();
+    button(*form, "Command4_0")->click();
+    EXPECT_EQ(amountBox(*form)->text(), "1 Bag");
+    button(*form, "Command5_1")->click();
+    button(*form, "Command4_0")->click();
+    EXPECT_EQ(amountBox(*form)->text(), " Bag");
+}
+
+TEST_F(ShoppingEdgeCases, TypingADoubleQuoteInTheItemBoxLeavesNoTraceOfIt)
+{
+    auto form = open();
+    addItem(*form, "12\" Pizza");
+    EXPECT_EQ(form->list().entryList(), QStringList({"12 Pizza"}));
+    EXPECT_EQ(folder.bytesOf("LISTNAME.Fil"), Lines({"12 Pizza"}));
+    act(*form, "mSave")->trigger();
+    EXPECT_FALSE(folder.bytesOf("15Nov26.Lst").contains("\"\" Pizza"));
+    EXPECT_EQ(folder.bytesOf("15Nov26.Lst"), ListBytes({{"  12 Pizza", ""}}));
+}
+
+TEST_F(ShoppingEdgeCases, OpeningAListSetsTheDateBoxFromTheFileNameAndSavingItAgainWritesToTheSameFile)
+{
+    for (const QLocale& locale : {QLocale(QLocale::English, QLocale::UnitedStates),
+                                  QLocale(QLocale::English, QLocale::UnitedKingdom)}) {
+        SCOPED_TRACE(locale.name().toStdString());
+        SetDateLocale(locale);
+        folder.writeBytes("03Dec26.Lst", ListBytes({{"  Tea", ""}}));
+        auto form = open();
+        chooser.expect(ListChoice::Open, "03Dec26.Lst");
+        act(*form, "mOpenList")->trigger();
+        EXPECT_EQ(dateBox(*form)->text(), ShortDate(QDate(2026, 12, 3)));
+        addItem(*form, "Honey");
+        dialogs.expectMessage("Save .lst File",
+                              "03Dec26.lst\nThis file already already exists.\nDo you want to replace it?", Answer::Yes);
+        act(*form, "mSave")->trigger();
+        EXPECT_EQ(folder.bytesOf("03Dec26.Lst"), ListBytes({{"  Tea", ""}, {"  Honey", ""}}));
+        EXPECT_EQ(QDir().entryList({"*.lst"}, QDir::Files), QStringList({"03Dec26.Lst"}));
+    }
+}
