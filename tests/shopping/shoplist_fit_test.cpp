@@ -1,6 +1,6 @@
 // The shopping list screen in a window of 800 by 600 with each of its panels
 // open, and the order in which Escape closes them.
-#include "shoplist_fixture.h"
+#include "shoplist_select_fixture.h"
 
 #include "fit_check.h"
 
@@ -8,7 +8,7 @@
 #include "shell/screens/backgroundselector.h"
 #include "shopping/screens/amountpanel.h"
 
-class ShoplistFitTest : public ShoplistTest {
+class ShoplistFitTest : public ShoplistSelectTest {
 protected:
     std::unique_ptr<Shoplist> openSmall()
     {
@@ -34,10 +34,45 @@ TEST_F(ShoplistFitTest, TheAmountPanelFits)
     EXPECT_EQ(FitProblems(form.get()), QStringList());
 }
 
-TEST_F(ShoplistFitTest, EscapeClosesTheCalendarAndTheBackgroundSelectorThenAsksToExit)
+TEST_F(ShoplistFitTest, RecipeSelectFitsWithTwentyBoxes)
+{
+    layout::CookbookFiles fifth;
+    layout::Recipe recipe;
+    for (int row = 0; row < 20; ++row) {
+        recipe.ingredients[row] = "a rather long ingredient name " + QByteArray::number(row);
+        recipe.amounts[row] = "12.5";
+        recipe.amountTypes[row] = "tablespoon";
+    }
+    recipe.slotMark = "Full1";
+    fifth.record(1, recipe);
+    fifth.names(RecipeType::Entrees, {layout::Entry("Everything", 1)});
+    ASSERT_TRUE(fifth.write(folder.path(), 5));
+    WriteSlotText(GColor4, 11, u" 5");
+    auto form = openSmall();
+    showRecipe(*form, "Entrees", "Everything");
+    ASSERT_EQ(recipePanel(*form)->shownCaptions().size(), 20);
+    EXPECT_EQ(FitProblems(form.get()), QStringList());
+}
+
+TEST_F(ShoplistFitTest, QuickSelectFits)
+{
+    auto form = openSmall();
+    act(*form, "mQuickSelect")->trigger();
+    EXPECT_EQ(FitProblems(form.get()), QStringList());
+}
+
+TEST_F(ShoplistFitTest, EscapeClosesQuickSelectRecipeSelectCalendarAndBackgroundSelectorThenAsksToExit)
 {
     auto form = open();
     addItem(*form, "Milk");
+    // Quick Select, then Recipe Select.
+    act(*form, "mQuickSelect")->trigger();
+    QTest::keyClick(form->quickSelectPanel()->command(QuickSelectPanel::kLeave), Qt::Key_Escape);
+    EXPECT_FALSE(form->quickSelectPanel()->isVisible());
+    act(*form, "mRecipeSelect")->trigger();
+    form->pressEscape();
+    EXPECT_FALSE(form->recipeSelectPanel()->isVisible());
+    EXPECT_EQ(form->openPanel(), ShoplistPanel::None);
     // The calendar, then the grid's background selector.
     QTest::mouseClick(dateBox(*form), Qt::LeftButton);
     ASSERT_TRUE(form->calendar()->isOpen());

@@ -77,6 +77,8 @@ TEST_F(ShoplistTest, OpensWithItsCaptionTodayAnEmptyGridOf16RowsAndNothingToSave
     EXPECT_FALSE(button(*form, "Command2_0")->isEnabled());
     EXPECT_FALSE(button(*form, "Command2_1")->isEnabled());
     EXPECT_TRUE(button(*form, "Command1_0")->hasFocus() || QApplication::focusWidget() == nullptr);
+    EXPECT_TRUE(folder.bytesOf("GColor4.Fil").isEmpty()) << "an empty cookbook slot is read as cookbook 1, nothing written";
+    EXPECT_EQ(form->cookbook(), 1);
 }
 
 TEST_F(ShoplistTest, ControlsCarryTheirCaptionsPromptsAndLengths)
@@ -591,6 +593,17 @@ TEST_F(ShoplistTest, TheGridTakesTheSharedGridColoursAndThePanelsTheirSlot)
     EXPECT_EQ(grid(*form)->palette().color(QPalette::Text), QColor(0, 0, 255));
     EXPECT_EQ(form->findChild<QFrame*>("SSPanel1")->palette().color(QPalette::Window), QColor(0, 255, 0));
     EXPECT_EQ(form->findChild<QFrame*>("SSPanel3")->palette().color(QPalette::Window), QColor(0, 255, 0));
+}
+
+TEST_F(ShoplistTest, TheCookbookComesFromSlot11AndTheTitlesFromSlots2To9)
+{
+    WriteSlotText(GColor4, 11, u" 3");
+    WriteSlotText(GColor4, 4, u"Holidays");
+    auto form = open();
+    EXPECT_EQ(form->cookbook(), 3);
+    EXPECT_EQ(act(*form, "mCookbook3")->text(), "Cookbook #3 - Holidays");
+    EXPECT_TRUE(act(*form, "mCookbook3")->isChecked());
+    EXPECT_EQ(act(*form, "mCookbook1")->text(), "Cookbook #1 - ");
 }
 
 TEST_F(ShoplistTest, TheGridBackgroundSelectorStoresThePictureNameInSlot28)

@@ -1,8 +1,10 @@
-// The edge cases of the shopping list and its files, one named test each,
-// walked on the screen as the user meets them.
-#include "shoplist_fixture.h"
+// The edge cases of the shopping list, its files and its select panels, one
+// named test each, walked on the screen as the user meets them.
+#include "shoplist_select_fixture.h"
 
 #include "test_data.h"
+
+#include "shopping/logic/groceryentry.h"
 
 #include <QDir>
 #include <QRadioButton>
@@ -31,7 +33,19 @@ const QString kReplace = "15Nov26.lst\nThis file already already exists.\nDo you
 
 } // namespace
 
-class ShoppingEdgeCases : public ShoplistTest {};
+class ShoppingEdgeCases : public ShoplistSelectTest {
+protected:
+    // Adds the Lemon Bars box `box` with its amount and returns the entry.
+    QString addLemonBarsBox(Shoplist& form, int box, bool withAmounts)
+    {
+        showRecipe(form, "Desserts", "Lemon Bars");
+        recipePanel(form)->choice(box)->click();
+        recipePanel(form)->command(withAmounts ? RecipeSelectPanel::kAddNamesAndAmounts
+                                               : RecipeSelectPanel::kAddNames)
+            ->click();
+        return form.list().entryList().last();
+    }
+};
 
 // ---- The list and its files ----------------------------------------------------------
 
@@ -47,6 +61,28 @@ TEST_F(ShoppingEdgeCases, SavingTwiceOnOneDateOffersReplacementAndNoLeavesTheOld
     act(*form, "mSave")->trigger();
     EXPECT_EQ(folder.bytesOf("15Nov26.Lst"), first);
     EXPECT_TRUE(form->list().dirty());
+}
+
+TEST_F(ShoppingEdgeCases, AnItemOf28CharactersFromARecipeIsShownWith26AndSavedWith26WithItsTwoLeadingBlanks)
+{
+    layout::CookbookFiles third;
+    layout::Recipe recipe;
+    recipe.ingredients[0] = "shredded sharp cheddar chees";
+    recipe.amounts[0] = "2";
+    recipe.amountTypes[0] = "cups";
+    recipe.slotMark = "Full1";
+    third.record(1, recipe);
+    third.names(RecipeType::Casseroles, {layout::Entry("Cheesy Bake", 1)});
+    ASSERT_TRUE(third.write(folder.path(), 3));
+    WriteSlotText(GColor4, 11, u" 3");
+    auto form = open();
+    showRecipe(*form, "Casseroles", "Cheesy Bake");
+    recipePanel(*form)->command(RecipeSelectPanel::kSelectAll)->click();
+    recipePanel(*form)->command(RecipeSelectPanel::kAddNames)->click();
+    ASSERT_EQ(form->list().entryList(), QStringList({"Shredded sharp cheddar chees"}));
+    EXPECT_EQ(cell(*form, 1, 0), "  Shredded sharp cheddar che");
+    act(*form, "mSave")->trigger();
+    EXPECT_EQ(folder.bytesOf("15Nov26.Lst"), ListBytes({{"  Shredded sharp cheddar che", ""}}));
 }
 
 TEST_F(ShoppingEdgeCases, AnItemWithAmountReadFromAListKeepsTheAmountOnTheRightRowInBothDisplayModes)
@@ -155,4 +191,90 @@ TEST_F(ShoppingEdgeCases, OpeningAListSetsTheDateBoxFromTheFileNameAndSavingItAg
         EXPECT_EQ(folder.bytesOf("03Dec26.Lst"), ListBytes({{"  Tea", ""}, {"  Honey", ""}}));
         EXPECT_EQ(QDir().entryList({"*.lst"}, QDir::Files), QStringList({"03Dec26.Lst"}));
     }
+}
+
+// ---- Recipes and the catalogue -----------------------------------------------------------
+
+TEST_F(ShoppingEdgeCases, Amount025WithUnitCupShowsTheSeparatorAndAQuarterCupAndYieldsARowWithThoseTwoTexts)
+{
+    auto form = open();
+    showRecipe(*form, "Desserts", "Lemon Bars");
+    EXPECT_EQ(recipePanel(*form)->choice(0)->text(), " Sugar => 1/4 Cup       ");
+    EXPECT_EQ(addLemonBarsBox(*form, 0, true), MakeGroceryEntry(u"Sugar", u"1/4 Cup"));
+    EXPECT_EQ(cell(*form, 1, 0), "  Sugar");
+    EXPECT_EQ(cell(*form, 1, 1), "1/4 Cup");
+}
+
+TEST_F(ShoppingEdgeCases, Amount19Shows2WithTwoBlanksBeforeTheUnit)
+{
+    auto form = open();
+    showRecipe(*form, "Desserts", "Lemon Bars");
+    EXPECT_EQ(recipePanel(*form)->choice(1)->text(), " Flour  => 2  Cups      ");
+    EXPECT_EQ(addLemonBarsBox(*form, 1, true), MakeGroceryEntry(u"Flour", u"2  Cups"));
+}
+
+TEST_F(ShoppingEdgeCases, Amount095GivesWhole1WithNoFractionSoTheRowsAmountBegins1)
+{
+    auto form = open();
+    EXPECT_EQ(addLemonBarsBox(*form, 2, true), MakeGroceryEntry(u"Butter", u"1  Pound"));
+    EXPECT_TRUE(cell(*form, 1, 1).startsWith("1"));
+}
+
+TEST_F(ShoppingEdgeCases, AnEmptyAmountWithAUnitGivesTheNameAndTheUnitWordWithTwoBlanksAndNoAmountWithEitherCommand)
+{
+    auto form = open();
+    EXPECT_EQ(addLemonBarsBox(*form, 3, true), "Milk  Cup");
+    EXPECT_EQ(addLemonBarsBox(*form, 3, false), "Milk  Cup");
+    EXPECT_EQ(cell(*form, 1, 0), "  Milk  Cup");
+    EXPECT_EQ(cell(*form, 1, 1), "");
+    EXPECT_EQ(cell(*form, 2, 1), "");
+}
+
+TEST_F(ShoppingEdgeCases, AParenthesisAfterTheFirstWordCutsTheNameButOneAtTheStartIsKept)
+{
+    auto form = open();
+    showRecipe(*form, "Desserts", "Lemon Bars");
+    EXPECT_TRUE(recipePanel(*form)->choice(1)->text().startsWith(" Flour  => ")) << "flour (sifted)";
+    EXPECT_EQ(recipePanel(*form)->choice(4)->text(), " (optional) nuts => 2           ");
+    EXPECT_EQ(addLemonBarsBox(*form, 4, false), "(optional) nuts");
+}
+
+TEST_F(ShoppingEdgeCases, TheSameRecipeAddedTwiceGivesEveryRowTwice)
+{
+    auto form = open();
+    for (int time = 0; time < 2; ++time) {
+        showRecipe(*form, "Desserts", "Lemon Bars");
+        recipePanel(*form)->command(RecipeSelectPanel::kSelectAll)->click();
+        recipePanel(*form)->command(RecipeSelectPanel::kAddNamesAndAmounts)->click();
+    }
+    const QStringList entries = form->list().entryList();
+    ASSERT_EQ(entries.size(), 12);
+    EXPECT_EQ(entries.mid(0, 6), entries.mid(6, 6));
+    EXPECT_EQ(cell(*form, 0, 0), "Grocery Items = 12");
+}
+
+TEST_F(ShoppingEdgeCases, ANameOf33CharactersIsCutTo30OnEntryAnd26OnTheGrid)
+{
+    layout::CookbookFiles fourth;
+    layout::Recipe recipe;
+    recipe.ingredients[0] = "Abcdefghijklmnopqrstuvwxyz1234567";
+    recipe.slotMark = "Full1";
+    fourth.record(1, recipe);
+    fourth.names(RecipeType::Stews, {layout::Entry("Long Names", 1)});
+    ASSERT_TRUE(fourth.write(folder.path(), 4));
+    WriteSlotText(GColor4, 11, u" 4");
+    auto form = open();
+    showRecipe(*form, "Stews", "Long Names");
+    recipePanel(*form)->command(RecipeSelectPanel::kSelectAll)->click();
+    recipePanel(*form)->command(RecipeSelectPanel::kAddNames)->click();
+    EXPECT_EQ(form->list().entryList(), QStringList({"Abcdefghijklmnopqrstuvwxyz1234"}));
+    EXPECT_EQ(cell(*form, 1, 0), "  Abcdefghijklmnopqrstuvwxyz");
+    // Typed from the drop-down, a long name is cut the same way.
+    folder.writeBytes("LISTNAME.Fil", Lines({"Zyxwvutsrqponmlkjihgfedcba9876543"}));
+    auto second = open();
+    second->findChild<QComboBox*>("Combo1")->setCurrentIndex(0);
+    emit second->findChild<QComboBox*>("Combo1")->activated(0);
+    pressEnter(itemBox(*second));
+    EXPECT_EQ(second->list().entryList(), QStringList({"Zyxwvutsrqponmlkjihgfedcba9876"}));
+    EXPECT_EQ(cell(*second, 1, 0), "  Zyxwvutsrqponmlkjihgfedcba");
 }

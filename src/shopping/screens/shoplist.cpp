@@ -3,10 +3,12 @@
 #include "common/clock.h"
 #include "common/dates.h"
 #include "common/programfolder.h"
+#include "cookbook/logic/cookbookselection.h"
 #include "shell/kit/popupcalendar.h"
 #include "shell/kit/raisedpanel.h"
 #include "shell/kit/screengrid.h"
 #include "shell/kit/screenstatusbar.h"
+#include "shopping/logic/recipeselect.h"
 #include "shopping/screens/amountpanel.h"
 #include "shopping/screens/entrybox.h"
 #include "shopping/screens/open1.h"
@@ -71,12 +73,18 @@ Shoplist::Shoplist(Dialogs& dialogs, QWidget* parent)
     calendar_->setClock(*clock_);
     calendar_->setTarget(dateBox_->box(), [](QDate date) { return ShortDate(date); });
     buildGridBackgroundSelector(central);
+    buildSelectPanels(central);
     declareEscapeOrder();
+    listArea_->installEventFilter(this);
+    central->installEventFilter(this);
     addColouredPanels(panels_);
     connectEntry();
 
     catalogue_.load();
     showDropDown();
+    cookbook_ = ReadShoplistCookbook();
+    titles_ = ReadCookbookTitles();
+    showCookbookMenu();
     dateBox_->setText(ShortDate(clock_->today()));
     showList();
     grid_->applySharedColors();
@@ -202,7 +210,20 @@ void Shoplist::buildGrid(QWidget* parent)
     });
 }
 
+// The select panels lie over the list.
+void Shoplist::placePanels()
+{
+    for (QWidget* panel : overList_)
+        panel->setGeometry(listArea_->geometry());
+}
+
 // ---- Showing the state --------------------------------------------------------
+
+void Shoplist::setPanel(ShoplistPanel panel)
+{
+    panel_ = panel;
+    applyCommandStates();
+}
 
 void Shoplist::focusCommandButton(ShoplistCommand command)
 {

@@ -3,8 +3,8 @@
 // trip, a grid of items and amounts tied to the trip's projected date, with
 // the catalogue of items typed before in a drop-down. What the screen works
 // on lives in ShoppingList and ItemCatalogue; the screen holds the widgets,
-// shows the model and hands it what the user did. The Amount Entry Panel is
-// a class of its own. The commands are one table (shoplistcommands.cpp),
+// shows the model and hands it what the user did. The Amount Entry Panel
+// and the Recipe Select and Quick Select panels are classes of their own. The commands are one table (shoplistcommands.cpp),
 // and ShoplistCommandStatesFor decides every enabled state.
 #include "shopping/logic/itemcatalogue.h"
 #include "shopping/logic/shoplistmodes.h"
@@ -27,6 +27,8 @@ class QPushButton;
 class QRadioButton;
 class QStackedWidget;
 class QStringListModel;
+class QuickSelectPanel;
+class RecipeSelectPanel;
 class ScreenGrid;
 struct Background;
 
@@ -52,7 +54,10 @@ public:
     const ShoppingList& list() const { return list_; }
     const ItemCatalogue& catalogue() const { return catalogue_; }
     ShoplistPanel openPanel() const { return panel_; }
+    int cookbook() const { return cookbook_; }
     AmountPanel* amountPanel() const { return amountPanel_; }
+    RecipeSelectPanel* recipeSelectPanel() const { return recipePanel_; }
+    QuickSelectPanel* quickSelectPanel() const { return quickPanel_; }
     PopupCalendar* calendar() const { return calendar_; }
     BackgroundSelector* gridBackgroundSelector() const { return gridBackground_; }
 
@@ -70,6 +75,7 @@ private:
     std::vector<CommandRow<ShoplistCommand>> commandRows();
     void buildCommands(QWidget* buttonPanel);
     void declareEscapeOrder();
+    void placePanels();
 
     // The grid and what is typed (shoplistentry.cpp).
     void connectEntry();
@@ -105,6 +111,18 @@ private:
     void dateBoxEdited(const QString& text);
     void openCalendar();
 
+    // The select panels (shoplistselect.cpp).
+    void buildSelectPanels(QWidget* area);
+    void toggleRecipeSelect();
+    void closeRecipeSelect();
+    void addChosenEntries(const QStringList& entries);
+    void selectCookbook(int cookbook);
+    void showCookbookMenu();
+    void toggleQuickSelect();
+    void addQuickSelections();
+    void closeQuickSelect();
+    void appendToList(const QStringList& entries, bool names);
+
     // The grid's colours (shoplistcolors.cpp).
     void buildGridBackgroundSelector(QWidget* area);
     void chooseGridBackground();
@@ -113,6 +131,7 @@ private:
     void chooseGridTextColor();
 
     // Showing the state.
+    void setPanel(ShoplistPanel panel);
     void applyCommandStates();
     void focusCommandButton(ShoplistCommand command);
     void tellListFull();
@@ -125,6 +144,8 @@ private:
     std::unique_ptr<ListChooser> ownChooser_;
     ListChooser* chooser_ = nullptr;
     const Clock* clock_ = nullptr;
+    int cookbook_ = 1;
+    QStringList titles_;
 
     QWidget* listArea_ = nullptr;            // the item, date and display panels and the grid
     QStackedWidget* leftColumn_ = nullptr;   // the entry panels, or the amount panel in their place
@@ -140,7 +161,10 @@ private:
     QRadioButton* alphabetically_ = nullptr; // Option1(1)
     ScreenGrid* grid_ = nullptr;             // VSFlexGrid1
     QList<QWidget*> panels_;                 // the panels that take the panel colour
+    QList<QWidget*> overList_;               // the panels that open over the list
     AmountPanel* amountPanel_ = nullptr;
+    RecipeSelectPanel* recipePanel_ = nullptr;
+    QuickSelectPanel* quickPanel_ = nullptr;
     PopupCalendar* calendar_ = nullptr;
     BackgroundSelector* gridBackground_ = nullptr;
     QStringList dropDown_;                   // Combo1's entries, sorted

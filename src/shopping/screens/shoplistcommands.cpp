@@ -5,6 +5,7 @@
 
 #include "common/blanktext.h"
 #include "cookbook/logic/cookbooknames.h"
+#include "cookbook/logic/cookbookselection.h"
 #include "shell/kit/popupcalendar.h"
 #include "shell/kit/screentoolbars.h"
 #include "shell/screens/backgroundselector.h"
@@ -49,9 +50,8 @@ constexpr ToolbarName kToolbarNames[] = {
 
 } // namespace
 
-// Recipe Select, Quick Select, the cookbooks, printing and copying come
-// with the panels of their own; until then their rows have no routine and
-// stay disabled.
+// Printing and copying come with the print panel; until then their rows
+// have no routine and stay disabled.
 std::vector<CommandRow<ShoplistCommand>> Shoplist::commandRows()
 {
     using enum ShoplistCommand;
@@ -85,10 +85,10 @@ std::vector<CommandRow<ShoplistCommand>> Shoplist::commandRows()
                       .button = {"&Delete Item from Grid", 4}, .run = [this] { deleteItem(); },
                       .enabled = rule(&ShoplistCommandStates::deleteItem)}},
         {RecipeSelect, {.name = "mRecipeSelect", .menu = "mOptions", .caption = "&Recipe Select",
-                        .button = {"&Recipe Select", 5},
+                        .button = {"&Recipe Select", 5}, .run = [this] { toggleRecipeSelect(); },
                         .enabled = rule(&ShoplistCommandStates::recipeSelect), .checkable = true}},
         {QuickSelect, {.name = "mQuickSelect", .menu = "mOptions", .caption = "&Quick Select",
-                       .button = {"&Quick Select", 6},
+                       .button = {"&Quick Select", 6}, .run = [this] { toggleQuickSelect(); },
                        .enabled = rule(&ShoplistCommandStates::quickSelect), .checkable = true}},
         {NewList, {.name = "mNewList", .menu = "mOptions", .caption = "&New Shopping List", .separatorBefore = true,
                    .toolbar = side(0), .run = [this] { newList(); }, .enabled = rule(&ShoplistCommandStates::newList),
@@ -107,10 +107,12 @@ std::vector<CommandRow<ShoplistCommand>> Shoplist::commandRows()
                          .enabled = rule(&ShoplistCommandStates::gridTextColor)}},
         {PanelColor, panelColor},
     };
+    // The entries' captions take the titles when the screen loads.
     for (int cookbook = 1; cookbook <= kCookbookCount; ++cookbook)
         rows.push_back({ShoplistCommand(int(Cookbook1) + cookbook - 1),
                         {.name = kCookbookNames[cookbook - 1], .menu = "mSelectCookbook",
                          .caption = QStringLiteral("Cookbook #&%1").arg(cookbook),
+                         .run = [this, cookbook] { selectCookbook(cookbook); },
                          .enabled = rule(&ShoplistCommandStates::selectCookbook), .choiceGroup = 1}});
     rows.insert(rows.end(), {
         {Worksheet, {.name = "mWorksheet", .menu = "mOptions", .caption = "Print &Worksheet", .separatorBefore = true,
@@ -142,11 +144,23 @@ void Shoplist::buildCommands(QWidget* buttonPanel)
     }
 }
 
-// Escape closes the panel in front first: the calendar, the grid's
-// background selector; with none open it is "E&xit", question and all.
+void Shoplist::showCookbookMenu()
+{
+    for (int cookbook = 1; cookbook <= kCookbookCount; ++cookbook) {
+        QAction* entry = commands_->action(ShoplistCommand(int(ShoplistCommand::Cookbook1) + cookbook - 1));
+        entry->setText(CookbookMenuCaption(cookbook, titles_.value(cookbook - 1)));
+        entry->setChecked(cookbook == cookbook_);
+    }
+}
+
+// Escape closes the panel in front first: Quick Select, Recipe Select, the
+// calendar, the grid's background selector; with none open it is "E&xit",
+// question and all.
 void Shoplist::declareEscapeOrder()
 {
     setEscapeOrder({
+        {[this] { return panel_ == ShoplistPanel::QuickSelect; }, [this] { closeQuickSelect(); }},
+        {[this] { return panel_ == ShoplistPanel::RecipeSelect; }, [this] { closeRecipeSelect(); }},
         {[this] { return calendar_->isOpen(); }, [this] { calendar_->hide(); }},
         {[this] { return gridBackground_->isOpen(); }, [this] { chooseGridBackground(); }},
         {[] { return true; }, [this] { leaveScreen(); }},

@@ -78,6 +78,8 @@ bool Shoplist::eventFilter(QObject* watched, QEvent* event)
             return true;
         }
     }
+    if ((watched == listArea_ || watched == centralWidget()) && event->type() == QEvent::Resize)
+        placePanels();
     return ActivityWindow::eventFilter(watched, event);
 }
 
