@@ -10,6 +10,7 @@
 #include "print/screens/printoptionspanel.h"
 #include "shell/settings/settingsregistry.h"
 
+#include "fit_check.h"
 #include "pdf_text.h"
 #include "scripted_dialogs.h"
 #include "temp_program_folder.h"
@@ -308,4 +309,13 @@ TEST(PagePainter, PaintsTheTextWhereTheDocumentPutsIt)
     }
     EXPECT_GE(firstDark, 358);
     EXPECT_LE(firstDark, 366);
+}
+
+TEST_F(PanelFixture, ThePanelWithItsPageButtonsFitsAWindowOf800By600)
+{
+    screen.resize(800, 600);
+    panel->resize(800, 600);
+    panel->open();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(FitProblems(&screen), QStringList());
 }

@@ -67,8 +67,6 @@ PagePreview::PagePreview(QWidget* parent) : QWidget(parent)
     next_->setToolTip(QStringLiteral("Next Page"));
     pageNumber_ = new QLabel(this);
     pageNumber_->setObjectName(QStringLiteral("PageNumber"));
-    for (QPushButton* button : {previous_, next_})
-        button->setFixedWidth(32);
     navigation->addWidget(previous_);
     navigation->addWidget(pageNumber_);
     navigation->addWidget(next_);
