@@ -4,6 +4,8 @@
 
 #include "fit_check.h"
 
+#include "print/screens/pagepreview.h"
+#include "print/screens/printoptionspanel.h"
 #include "shell/kit/popupcalendar.h"
 #include "shell/screens/backgroundselector.h"
 #include "shopping/screens/amountpanel.h"
@@ -61,10 +63,25 @@ TEST_F(ShoplistFitTest, QuickSelectFits)
     EXPECT_EQ(FitProblems(form.get()), QStringList());
 }
 
-TEST_F(ShoplistFitTest, EscapeClosesQuickSelectRecipeSelectCalendarAndBackgroundSelectorThenAsksToExit)
+TEST_F(ShoplistFitTest, ThePrintPanelFits)
+{
+    auto form = openSmall();
+    addItem(*form, "Milk");
+    act(*form, "mPrintOptions")->trigger();
+    EXPECT_EQ(FitProblems(form.get()), QStringList());
+}
+
+TEST_F(ShoplistFitTest, EscapeClosesPrintQuickSelectRecipeSelectCalendarAndBackgroundSelectorThenAsksToExit)
 {
     auto form = open();
     addItem(*form, "Milk");
+    // The print panel, its large view first.
+    act(*form, "mPrintOptions")->trigger();
+    form->printPanel()->enlargeButton()->click();
+    form->pressEscape();
+    EXPECT_TRUE(form->printPanel()->isVisible());
+    form->pressEscape();
+    EXPECT_FALSE(form->printPanel()->isVisible());
     // Quick Select, then Recipe Select.
     act(*form, "mQuickSelect")->trigger();
     QTest::keyClick(form->quickSelectPanel()->command(QuickSelectPanel::kLeave), Qt::Key_Escape);

@@ -58,7 +58,7 @@ TEST_F(ShoplistSelectTest, PressingRecipeSelectAgainClosesItAndGivesTheCommandsB
     EXPECT_FALSE(recipePanel(*form)->isVisible());
     EXPECT_FALSE(act(*form, "mRecipeSelect")->isChecked());
     EXPECT_EQ(status(*form), "Shopping List Maker");
-    for (const char* on : {"mNewList", "mOpenList", "mQuickSelect", "mPanelColor"})
+    for (const char* on : {"mNewList", "mOpenList", "mQuickSelect", "mPrintOptions", "mPanelColor"})
         EXPECT_TRUE(act(*form, on)->isEnabled()) << on;
     EXPECT_FALSE(act(*form, "mSave")->isEnabled()) << "Save comes back only where it was on";
     EXPECT_FALSE(form->findChild<QMenu*>("mSelectCookbook")->isEnabled());

@@ -74,6 +74,7 @@ Shoplist::Shoplist(Dialogs& dialogs, QWidget* parent)
     calendar_->setTarget(dateBox_->box(), [](QDate date) { return ShortDate(date); });
     buildGridBackgroundSelector(central);
     buildSelectPanels(central);
+    buildPrintPanel(central);
     declareEscapeOrder();
     listArea_->installEventFilter(this);
     central->installEventFilter(this);
@@ -210,11 +211,13 @@ void Shoplist::buildGrid(QWidget* parent)
     });
 }
 
-// The select panels lie over the list.
+// The select panels lie over the list, the print panel over the whole screen.
 void Shoplist::placePanels()
 {
     for (QWidget* panel : overList_)
         panel->setGeometry(listArea_->geometry());
+    for (QWidget* panel : overScreen_)
+        panel->setGeometry(centralWidget()->rect());
 }
 
 // ---- Showing the state --------------------------------------------------------

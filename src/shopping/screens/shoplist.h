@@ -3,8 +3,9 @@
 // trip, a grid of items and amounts tied to the trip's projected date, with
 // the catalogue of items typed before in a drop-down. What the screen works
 // on lives in ShoppingList and ItemCatalogue; the screen holds the widgets,
-// shows the model and hands it what the user did. The Amount Entry Panel
-// and the Recipe Select and Quick Select panels are classes of their own. The commands are one table (shoplistcommands.cpp),
+// shows the model and hands it what the user did. The Amount Entry Panel,
+// the Recipe Select and Quick Select panels and the list's print options are
+// classes of their own. The commands are one table (shoplistcommands.cpp),
 // and ShoplistCommandStatesFor decides every enabled state.
 #include "shopping/logic/itemcatalogue.h"
 #include "shopping/logic/shoplistmodes.h"
@@ -19,7 +20,10 @@ class BackgroundSelector;
 class Clock;
 class EntryBox;
 class ListChooser;
+class ListPrintOptions;
+class PageBuilder;
 class PopupCalendar;
+class PrintOptionsPanel;
 class QComboBox;
 class QGroupBox;
 class QLineEdit;
@@ -58,6 +62,8 @@ public:
     AmountPanel* amountPanel() const { return amountPanel_; }
     RecipeSelectPanel* recipeSelectPanel() const { return recipePanel_; }
     QuickSelectPanel* quickSelectPanel() const { return quickPanel_; }
+    PrintOptionsPanel* printPanel() const { return printPanel_; }
+    ListPrintOptions* printOptions() const { return printOptions_; }
     PopupCalendar* calendar() const { return calendar_; }
     BackgroundSelector* gridBackgroundSelector() const { return gridBackground_; }
 
@@ -123,6 +129,12 @@ private:
     void closeQuickSelect();
     void appendToList(const QStringList& entries, bool names);
 
+    // Printing (shoplistprint.cpp).
+    void buildPrintPanel(QWidget* area);
+    void openPrintPanel(bool worksheet);
+    void leavePrintOptions();
+    void composePrintout(PageBuilder& page);
+
     // The grid's colours (shoplistcolors.cpp).
     void buildGridBackgroundSelector(QWidget* area);
     void chooseGridBackground();
@@ -161,10 +173,13 @@ private:
     QRadioButton* alphabetically_ = nullptr; // Option1(1)
     ScreenGrid* grid_ = nullptr;             // VSFlexGrid1
     QList<QWidget*> panels_;                 // the panels that take the panel colour
-    QList<QWidget*> overList_;               // the panels that open over the list
+    QList<QWidget*> overList_;               // panels that open over the list
+    QList<QWidget*> overScreen_;             // panels that open over the whole screen
     AmountPanel* amountPanel_ = nullptr;
     RecipeSelectPanel* recipePanel_ = nullptr;
     QuickSelectPanel* quickPanel_ = nullptr;
+    PrintOptionsPanel* printPanel_ = nullptr;
+    ListPrintOptions* printOptions_ = nullptr;
     PopupCalendar* calendar_ = nullptr;
     BackgroundSelector* gridBackground_ = nullptr;
     QStringList dropDown_;                   // Combo1's entries, sorted

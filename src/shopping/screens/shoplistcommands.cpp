@@ -6,6 +6,7 @@
 #include "common/blanktext.h"
 #include "cookbook/logic/cookbooknames.h"
 #include "cookbook/logic/cookbookselection.h"
+#include "print/screens/printoptionspanel.h"
 #include "shell/kit/popupcalendar.h"
 #include "shell/kit/screentoolbars.h"
 #include "shell/screens/backgroundselector.h"
@@ -50,8 +51,8 @@ constexpr ToolbarName kToolbarNames[] = {
 
 } // namespace
 
-// Printing and copying come with the print panel; until then their rows
-// have no routine and stay disabled.
+// Copying the list comes with a tool of its own; until then its row has no
+// routine and stays disabled.
 std::vector<CommandRow<ShoplistCommand>> Shoplist::commandRows()
 {
     using enum ShoplistCommand;
@@ -79,7 +80,7 @@ std::vector<CommandRow<ShoplistCommand>> Shoplist::commandRows()
                 .run = [this] { save(); }, .enabled = rule(&ShoplistCommandStates::save),
                 .shortcut = QKeySequence::Save}},
         {PrintOptions, {.name = "mPrintOptions", .menu = "mOptions", .caption = "&Print Options",
-                        .button = {"&Print Options", 3}, .toolbar = side(8),
+                        .button = {"&Print Options", 3}, .toolbar = side(8), .run = [this] { openPrintPanel(false); },
                         .enabled = rule(&ShoplistCommandStates::printOptions), .shortcut = QKeySequence::Print}},
         {DeleteItem, {.name = "mDeleteItem", .menu = "mOptions", .caption = "&Delete Item from Grid",
                       .button = {"&Delete Item from Grid", 4}, .run = [this] { deleteItem(); },
@@ -116,7 +117,8 @@ std::vector<CommandRow<ShoplistCommand>> Shoplist::commandRows()
                          .enabled = rule(&ShoplistCommandStates::selectCookbook), .choiceGroup = 1}});
     rows.insert(rows.end(), {
         {Worksheet, {.name = "mWorksheet", .menu = "mOptions", .caption = "Print &Worksheet", .separatorBefore = true,
-                     .toolbar = side(7), .enabled = rule(&ShoplistCommandStates::worksheet)}},
+                     .toolbar = side(7), .run = [this] { openPrintPanel(true); },
+                     .enabled = rule(&ShoplistCommandStates::worksheet)}},
         {Copy, {.name = "mCopy", .menu = "mOptions", .caption = "Cop&y", .toolbar = side(6),
                 .enabled = rule(&ShoplistCommandStates::copy)}},
         {Help, helpCommand("mHelpMenu", QStringLiteral("Shopping List &Help"))},
@@ -153,12 +155,13 @@ void Shoplist::showCookbookMenu()
     }
 }
 
-// Escape closes the panel in front first: Quick Select, Recipe Select, the
-// calendar, the grid's background selector; with none open it is "E&xit",
-// question and all.
+// Escape closes the panel in front first: the large preview and the print
+// panel, Quick Select, Recipe Select, the calendar, the grid's background
+// selector; with none open it is "E&xit", question and all.
 void Shoplist::declareEscapeOrder()
 {
     setEscapeOrder({
+        {[this] { return panel_ == ShoplistPanel::Print; }, [this] { printPanel_->pressEscape(); }},
         {[this] { return panel_ == ShoplistPanel::QuickSelect; }, [this] { closeQuickSelect(); }},
         {[this] { return panel_ == ShoplistPanel::RecipeSelect; }, [this] { closeRecipeSelect(); }},
         {[this] { return calendar_->isOpen(); }, [this] { calendar_->hide(); }},
