@@ -5,6 +5,7 @@
 #include "pdf_text.h"
 #include "raw_slots.h"
 
+#include "common/widgets/qtfonts.h"
 #include "print/logic/printfont.h"
 #include "print/screens/fontmeasurer.h"
 #include "print/screens/guidelineoptions.h"
@@ -214,4 +215,48 @@ TEST_F(ShoplistPrintTest, PrintingChangesNeitherTheListNorItsChangedFlag)
     panel(*form)->command(PrintOptionsPanel::kExitPrintOptions)->click();
     EXPECT_FALSE(form->list().dirty());
     EXPECT_EQ(form->list().entryList(), QStringList({"Milk"}));
+}
+
+// The head byte for byte; every row is its item cell as the grid shows it,
+// filled out with blanks until the screen's font measures 2400 twips (and
+// not one blank more), a TAB, the amount and a CR.
+TEST_F(ShoplistPrintTest, CopyPutsTheListOnTheClipboardAsTextAndTellsTheUser)
+{
+    auto form = open();
+    addItem(*form, "Milk");
+    addItem(*form, "Eggs");
+    enterAmount(*form, 2, "1 Dozen");
+    act(*form, "mSave")->trigger();
+    dialogs.expectMessage("Copy Option", "Data has been copied to the Windows Clipboard.");
+    act(*form, "mCopy")->trigger();
+    EXPECT_EQ(dialogs.messages().last().icon, Icon::Information);
+    const QString text = QApplication::clipboard()->text();
+    const QString head = "Shopping List\r\nSunday, November 15, 2026\r\n\r\n"
+                         "          Grocery Items                Amount to Purchase\r\n";
+    ASSERT_TRUE(text.startsWith(head)) << text.toStdString();
+    const QStringList lines = text.mid(head.size()).split(u'\r');
+    ASSERT_EQ(lines, QStringList({lines[0], lines[1], ""})) << "two rows, each ended by a CR alone";
+    const TextFont screenFont = TextFontOf(form->font(), 0);
+    const QString amounts[] = {"", "1 Dozen"};
+    const QString cells[] = {"  Milk", "  Eggs"};
+    for (int row = 0; row < 2; ++row) {
+        SCOPED_TRACE(row);
+        const QStringList parts = lines[row].split(u'\t');
+        ASSERT_EQ(parts.size(), 2);
+        EXPECT_EQ(parts[1], amounts[row]);
+        const QString filled = parts[0];
+        ASSERT_TRUE(filled.startsWith(cells[row]));
+        EXPECT_EQ(filled.trimmed(), cells[row].trimmed()) << "blanks only behind the cell";
+        EXPECT_GE(FontMeasurer().textWidth(screenFont, filled), 2400);
+        EXPECT_LT(FontMeasurer().textWidth(screenFont, filled.chopped(1)), 2400);
+    }
+    EXPECT_FALSE(form->list().dirty()) << "copying changes nothing";
+}
+
+TEST_F(ShoplistPrintTest, CopyIsOfferedOnceTheGridHoldsAList)
+{
+    auto form = open();
+    EXPECT_FALSE(act(*form, "mCopy")->isEnabled());
+    addItem(*form, "Milk");
+    EXPECT_TRUE(act(*form, "mCopy")->isEnabled());
 }

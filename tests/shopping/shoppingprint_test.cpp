@@ -6,6 +6,7 @@
 
 #include "common/dates.h"
 #include "print/logic/pagebuilder.h"
+#include "shopping/logic/datebox.h"
 #include "shopping/logic/groceryentry.h"
 
 #include "fixed_measurer.h"
@@ -321,6 +322,6 @@ TEST_F(ShoppingPrintTest, ScreenFontsPrintInTimesNewRoman12AndAMissingFontGivesW
 
 TEST_F(ShoppingPrintTest, TheDateIsPrintedLongOrAsTheBoxHoldsIt)
 {
-    EXPECT_EQ(PrintedDateText(u"11/15/26"), "Sunday, November 15, 2026");
-    EXPECT_EQ(PrintedDateText(u"someday"), "someday");
+    EXPECT_EQ(LongDateOfBox(u"11/15/26"), "Sunday, November 15, 2026");
+    EXPECT_EQ(LongDateOfBox(u"someday"), "someday");
 }

@@ -22,3 +22,9 @@ QChar ShortDateSeparator()
     }
     return u'/';
 }
+
+QString LongDateOfBox(QStringView dateBox)
+{
+    const std::optional<QDate> date = ParseDate(dateBox);
+    return date ? LongDate(*date) : dateBox.toString();
+}

@@ -9,3 +9,6 @@
 QString DateBoxText(QStringView typed, QChar localeSeparator);
 // The separator of the locale's short date form; "/" when it has none.
 QChar ShortDateSeparator();
+// The projected date in the long date form, as the list prints and copies
+// it; the box's text as it stands when it holds no date.
+QString LongDateOfBox(QStringView dateBox);

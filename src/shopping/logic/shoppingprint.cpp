@@ -1,9 +1,9 @@
 #include "shopping/logic/shoppingprint.h"
 
 #include "common/blanktext.h"
-#include "common/dates.h"
 #include "common/numberformat.h"
 #include "print/logic/pagebuilder.h"
+#include "shopping/logic/datebox.h"
 #include "shopping/logic/groceryentry.h"
 
 namespace {
@@ -97,7 +97,7 @@ private:
                 title.prepend(list_.familyName + u' ');
             WriteCentredAt(page_, width() / 2, title);
             if (list_.printDate)
-                WriteCentredAt(page_, width() / 2, PrintedDateText(list_.dateBox));
+                WriteCentredAt(page_, width() / 2, LongDateOfBox(list_.dateBox));
             else
                 EmptyLine(page_);
             EmptyLine(page_);
@@ -232,12 +232,6 @@ QString PrintedItemText(QStringView itemCell)
     if (itemCell.size() >= kLongestShownName)
         return QStringLiteral("   ") + name.left(kGridNameLength);
     return FormatText(name, kItemField);
-}
-
-QString PrintedDateText(QStringView dateBox)
-{
-    const std::optional<QDate> date = ParseDate(dateBox);
-    return date ? LongDate(*date) : dateBox.toString();
 }
 
 TextFont ListPrintFont(const TextFont& font, const std::function<bool(const QString& family)>& available)

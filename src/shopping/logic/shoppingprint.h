@@ -40,8 +40,6 @@ bool HasPrintableRows(const QList<GridRow>& rows, int entryCount);
 // characters as shown prints as three blanks and the name's first 26
 // characters, whole.
 QString PrintedItemText(QStringView itemCell);
-// The projected date in the long date form; the box's text when it is no date.
-QString PrintedDateText(QStringView dateBox);
 
 // The font the list prints in: the screen fonts "MS Sans Serif" and
 // "MS Serif" become "Times New Roman" 12; a font that cannot be had gives

@@ -129,11 +129,12 @@ private:
     void closeQuickSelect();
     void appendToList(const QStringList& entries, bool names);
 
-    // Printing (shoplistprint.cpp).
+    // Printing and copying (shoplistprint.cpp).
     void buildPrintPanel(QWidget* area);
     void openPrintPanel(bool worksheet);
     void leavePrintOptions();
     void composePrintout(PageBuilder& page);
+    void copyList();
 
     // The grid's colours (shoplistcolors.cpp).
     void buildGridBackgroundSelector(QWidget* area);

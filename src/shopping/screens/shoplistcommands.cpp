@@ -51,8 +51,6 @@ constexpr ToolbarName kToolbarNames[] = {
 
 } // namespace
 
-// Copying the list comes with a tool of its own; until then its row has no
-// routine and stays disabled.
 std::vector<CommandRow<ShoplistCommand>> Shoplist::commandRows()
 {
     using enum ShoplistCommand;
@@ -120,7 +118,7 @@ std::vector<CommandRow<ShoplistCommand>> Shoplist::commandRows()
                      .toolbar = side(7), .run = [this] { openPrintPanel(true); },
                      .enabled = rule(&ShoplistCommandStates::worksheet)}},
         {Copy, {.name = "mCopy", .menu = "mOptions", .caption = "Cop&y", .toolbar = side(6),
-                .enabled = rule(&ShoplistCommandStates::copy)}},
+                .run = [this] { copyList(); }, .enabled = rule(&ShoplistCommandStates::copy)}},
         {Help, helpCommand("mHelpMenu", QStringLiteral("Shopping List &Help"))},
     });
     return rows;

@@ -1,17 +1,22 @@
-// Shoplist's printing: the checklist and the worksheet on the print options
-// panel.
+// Shoplist's output: the checklist and the worksheet on the print options
+// panel, and the list as text on the clipboard.
 #include "shopping/screens/shoplist.h"
 
 #include "common/dialogs.h"
+#include "common/widgets/qtfonts.h"
 #include "print/logic/pagebuilder.h"
 #include "print/logic/printfont.h"
+#include "print/screens/fontmeasurer.h"
 #include "print/screens/printoptionspanel.h"
 #include "shell/kit/screenstatusbar.h"
 #include "shell/logic/processvalues.h"
+#include "shopping/logic/listclipboard.h"
 #include "shopping/logic/shoppingprint.h"
 #include "shopping/screens/entrybox.h"
 #include "shopping/screens/listprintoptions.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QMenu>
 
@@ -84,4 +89,15 @@ void Shoplist::composePrintout(PageBuilder& page)
     printout.dividers = printOptions_->dividers();
     printout.printDate = printOptions_->printDate();
     ComposeShoppingList(page, printout, PrintFont());
+}
+
+// The item column is filled out in the screen's own font, as it is seen.
+void Shoplist::copyList()
+{
+    QClipboard* clipboard = QGuiApplication::clipboard();
+    clipboard->clear();
+    clipboard->setText(
+        ShoppingListClipboardText(list_.rows(), dateBox_->box()->text(), FontMeasurer(), TextFontOf(font(), 0)));
+    dialogs().tell(QStringLiteral("Copy Option"), QStringLiteral("Data has been copied to the Windows Clipboard."),
+                   Icon::Information);
 }
