@@ -5,22 +5,12 @@
 #include "test_data.h"
 #include "temp_program_folder.h"
 
+#include "list_bytes.h"
+
 #include <QDir>
 #include "qstring_printer.h"
 
 #include <gtest/gtest.h>
-
-namespace {
-
-QByteArray Lines(const QList<QByteArray>& values)
-{
-    QByteArray bytes;
-    for (const QByteArray& value : values)
-        bytes += '"' + value + "\"\r\n";
-    return bytes;
-}
-
-} // namespace
 
 TEST(ItemCatalogue, AMissingFileIsAnEmptyCatalogue)
 {

@@ -18,20 +18,6 @@
 #include <QMenu>
 #include <QRadioButton>
 
-namespace {
-
-QList<LineItem> LinesOf(const Page& page)
-{
-    QList<LineItem> lines;
-    for (const PageItem& item : page.items) {
-        if (const auto* line = std::get_if<LineItem>(&item))
-            lines.append(*line);
-    }
-    return lines;
-}
-
-} // namespace
-
 class ShoplistPrintTest : public ShoplistTest {
 protected:
     static PrintOptionsPanel* panel(Shoplist& form) { return form.printPanel(); }
@@ -87,9 +73,9 @@ TEST_F(ShoplistPrintTest, TheListsOptionsComposeThePageAgainAtOnce)
     auto form = open();
     fillList(*form, 6);
     act(*form, "mPrintOptions")->trigger();
-    EXPECT_EQ(LinesOf(document(*form).pages[0]).size(), 1);
+    EXPECT_EQ(document(*form).pages[0].lines().size(), 1);
     form->printOptions()->dividerBox()->click();
-    EXPECT_TRUE(LinesOf(document(*form).pages[0]).isEmpty());
+    EXPECT_TRUE(document(*form).pages[0].lines().isEmpty());
     form->printOptions()->dateBox()->click();
     EXPECT_FALSE(document(*form).allTexts().contains("Sunday, November 15, 2026"));
 }

@@ -16,6 +16,8 @@
 #include "shopping/logic/groceryentry.h"
 #include "shopping/screens/amountpanel.h"
 
+#include "list_bytes.h"
+
 #include <QApplication>
 #include <QCalendarWidget>
 #include <QDir>
@@ -31,25 +33,6 @@
 #include <QToolTip>
 
 namespace {
-
-QByteArray Lines(const QList<QByteArray>& values)
-{
-    QByteArray bytes;
-    for (const QByteArray& value : values)
-        bytes += '"' + value + "\"\r\n";
-    return bytes;
-}
-
-// A list file of `rows` grid rows holding the given item and amount cells.
-QByteArray ListBytes(const QList<std::pair<QByteArray, QByteArray>>& filled, int rows = 15)
-{
-    QList<QByteArray> values;
-    for (const auto& [item, amount] : filled)
-        values << item << amount;
-    for (int row = int(filled.size()); row < rows; ++row)
-        values << "" << "";
-    return Lines(values);
-}
 
 const Message kUnsavedBeforeAction{"Grocery List", "Save changes made to Grocery Item Grid before this action?",
                                    Buttons::YesNoCancel, Icon::None, 1};

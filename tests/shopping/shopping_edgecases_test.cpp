@@ -6,28 +6,12 @@
 
 #include "shopping/logic/groceryentry.h"
 
+#include "list_bytes.h"
+
 #include <QDir>
 #include <QRadioButton>
 
 namespace {
-
-QByteArray Lines(const QList<QByteArray>& values)
-{
-    QByteArray bytes;
-    for (const QByteArray& value : values)
-        bytes += '"' + value + "\"\r\n";
-    return bytes;
-}
-
-QByteArray ListBytes(const QList<std::pair<QByteArray, QByteArray>>& filled, int rows = 15)
-{
-    QList<QByteArray> values;
-    for (const auto& [item, amount] : filled)
-        values << item << amount;
-    for (int row = int(filled.size()); row < rows; ++row)
-        values << "" << "";
-    return Lines(values);
-}
 
 const QString kReplace = "15Nov26.lst\nThis file already already exists.\nDo you want to replace it?";
 

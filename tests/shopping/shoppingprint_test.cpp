@@ -54,16 +54,6 @@ QStringList NumberedItems(int count)
     return items;
 }
 
-QList<LineItem> LinesOf(const Page& page)
-{
-    QList<LineItem> lines;
-    for (const PageItem& item : page.items) {
-        if (const auto* line = std::get_if<LineItem>(&item))
-            lines.append(*line);
-    }
-    return lines;
-}
-
 QString Ticked(const QString& name)
 {
     return QStringLiteral("[   ]") + name.leftJustified(28);
@@ -204,7 +194,7 @@ TEST_F(ShoppingPrintTest, SeventyItemsFillTheLeftHalfGoOnAtTheTopOfTheRightHalfA
 TEST_F(ShoppingPrintTest, WithDividersOnEachColumnShowsALineAfterEveryFifthItem)
 {
     const PageDocument& doc = compose(NumberedItems(70), 20);
-    const QList<LineItem> first = LinesOf(doc.pages[0]);
+    const QList<LineItem> first = doc.pages[0].lines();
     ASSERT_EQ(first.size(), 10);
     const double itemsTop = 3760;
     for (int i = 0; i < 5; ++i) {
@@ -218,13 +208,13 @@ TEST_F(ShoppingPrintTest, WithDividersOnEachColumnShowsALineAfterEveryFifthItem)
         EXPECT_DOUBLE_EQ(first[5 + i].x2, kW - 2);
         EXPECT_DOUBLE_EQ(first[5 + i].y1, y);
     }
-    EXPECT_EQ(LinesOf(doc.pages[1]).size(), 3) << "18 items on page 2";
+    EXPECT_EQ(doc.pages[1].lines().size(), 3) << "18 items on page 2";
 }
 
 TEST_F(ShoppingPrintTest, WithDividersOffNoLineIsDrawnButTheRoomStays)
 {
     const PageDocument& doc = compose(NumberedItems(7), 12, false);
-    EXPECT_TRUE(LinesOf(doc.pages[0]).isEmpty());
+    EXPECT_TRUE(doc.pages[0].lines().isEmpty());
     const double top = doc.pages[0].findText(Ticked("Item 01"))->y;
     EXPECT_DOUBLE_EQ(doc.pages[0].findText(Ticked("Item 06"))->y, top + 5 * Line(12) + 13);
 }
@@ -263,7 +253,7 @@ TEST_F(ShoppingPrintTest, TheWorksheetPrintsWithAnEmptyList)
         EXPECT_EQ(headings[i].text, texts[i]);
         EXPECT_DOUBLE_EQ(headings[i].x, xs[i]);
     }
-    const QList<LineItem> lines = LinesOf(sheet);
+    const QList<LineItem> lines = sheet.lines();
     // Three rules at the head, one under each empty line until a line passes
     // H - 400, then six verticals.
     const double firstRow = headingY + Line(12);
