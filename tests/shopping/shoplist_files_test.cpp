@@ -9,28 +9,12 @@
 
 #include "common/writefailure.h"
 
+#include "list_bytes.h"
+
 #include <QDir>
 #include <QFileInfo>
 
 namespace {
-
-QByteArray Lines(const QList<QByteArray>& values)
-{
-    QByteArray bytes;
-    for (const QByteArray& value : values)
-        bytes += '"' + value + "\"\r\n";
-    return bytes;
-}
-
-QByteArray ListBytes(const QList<std::pair<QByteArray, QByteArray>>& filled, int rows = 15)
-{
-    QList<QByteArray> values;
-    for (const auto& [item, amount] : filled)
-        values << item << amount;
-    for (int row = int(filled.size()); row < rows; ++row)
-        values << "" << "";
-    return Lines(values);
-}
 
 const QString kReplace = "15Nov26.lst\nThis file already already exists.\nDo you want to replace it?";
 const QString kBeforeAction = "Save changes made to Grocery Item Grid before this action?";
@@ -208,6 +192,24 @@ TEST_F(ShoplistTest, AListThatCannotBeReadEndsTheOpenSilently)
     EXPECT_TRUE(dialogs.messages().isEmpty());
     EXPECT_TRUE(form->list().entryList().isEmpty());
     EXPECT_EQ(dateBox(*form)->text(), "11/21/26");
+}
+
+// Open offers Clear Grid, Save and Copy for what it opened, even a list
+// whose rows are all empty; a cleared grid takes them back.
+TEST_F(ShoplistTest, AnOpenedListWithoutItemsCanStillBeSavedClearedAndCopied)
+{
+    folder.writeBytes("24Nov26.Lst", ListBytes({{"", "2 Cans"}, {"", ""}}));
+    auto form = open();
+    chooser.expect(ListChoice::Open, "24Nov26.Lst");
+    act(*form, "mOpenList")->trigger();
+    ASSERT_TRUE(form->list().entryList().isEmpty());
+    EXPECT_FALSE(form->list().dirty());
+    for (const char* on : {"mClearGrid", "mSave", "mCopy"})
+        EXPECT_TRUE(act(*form, on)->isEnabled()) << on;
+    dialogs.expectMessage("Clear Grid", "Do you really want To Clear the Grid?", Answer::Yes);
+    act(*form, "mClearGrid")->trigger();
+    for (const char* off : {"mClearGrid", "mSave", "mCopy"})
+        EXPECT_FALSE(act(*form, off)->isEnabled()) << off;
 }
 
 TEST_F(ShoplistTest, AListOfMoreThan999ItemsIsRefusedAndItsFileUnchanged)

@@ -31,6 +31,7 @@ std::vector<StateRow> Rows()
         rows.push_back({"changed list", {ShoplistPanel::None, true, true, false, false}, on});
         rows.push_back({"opened list, saved", {ShoplistPanel::None, false, true, false, false}, on});
         rows.push_back({"changed, its last entry deleted", {ShoplistPanel::None, true, false, false, false}, on});
+        rows.push_back({"opened list without items", {ShoplistPanel::None, false, false, false, false, true}, on});
     }
     {
         ShoplistCommandStates on = Idle();

@@ -3,7 +3,7 @@
 ShoplistCommandStates ShoplistCommandStatesFor(const ShoplistScreenState& state)
 {
     ShoplistCommandStates on;
-    const bool listShown = state.dirty || state.hasEntries;
+    const bool listShown = state.dirty || state.hasEntries || state.listOpened;
     switch (state.panel) {
     case ShoplistPanel::None:
         on.newList = on.openList = on.deleteList = true;

@@ -10,6 +10,7 @@ struct ShoplistScreenState {
     bool hasEntries = false;        // EntryList holds an entry
     bool itemCellSelected = false;  // the current cell is a filled item cell
     bool itemBoxHasText = false;    // the item box is not empty
+    bool listOpened = false;        // a saved list was opened onto the grid, even one without items
 };
 
 struct ShoplistCommandStates {

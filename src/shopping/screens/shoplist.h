@@ -186,4 +186,5 @@ private:
     QStringList dropDown_;                   // Combo1's entries, sorted
     bool itemCellSelected_ = false;          // a click on a filled item cell waits for its new name
     bool exitAsked_ = false;                 // "E&xit" has asked its question already
+    bool listOpened_ = false;                // the grid shows a list opened from its file
 };

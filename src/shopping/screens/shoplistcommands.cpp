@@ -177,6 +177,7 @@ void Shoplist::applyCommandStates()
     state.itemCellSelected = itemCellSelected_ && list_.currentColumn() == 0
                           && !IsBlank(list_.cell(list_.currentRow(), 0));
     state.itemBoxHasText = !itemBox_->box()->text().isEmpty();
+    state.listOpened = listOpened_;
     on_ = ShoplistCommandStatesFor(state);
     commands_->refresh();
     commands_->menu("mSelectCookbook")->setEnabled(on_.selectCookbook);

@@ -104,6 +104,7 @@ void Shoplist::openList()
         return;
     }
     list_.load(read.entries);
+    listOpened_ = true;
     showList();
 }
 
@@ -141,6 +142,7 @@ void Shoplist::clearGridCommand()
 void Shoplist::clearGrid()
 {
     list_.clear();
+    listOpened_ = false;
     itemCellSelected_ = false;
     showItemEntry();
     grid_->setCurrentCell(-1, -1);
