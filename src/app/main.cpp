@@ -11,6 +11,7 @@
 #include "shell/screens/singleinstance.h"
 #include "shell/screens/startfrm.h"
 #include "storage/screens/form24.h"
+#include "shopping/screens/shoplist.h"
 
 #include <QApplication>
 
@@ -44,6 +45,7 @@ int main(int argc, char** argv)
     startfrm.registerActivity(MainCommand::Emergency,
                               [&dialogs] { return new Form24(dialogs, StorageKind::Emergency); });
     startfrm.registerActivity(MainCommand::MenuPlanner, [&dialogs] { return new Zcalandar(dialogs); });
+    startfrm.registerActivity(MainCommand::ShoppingList, [&dialogs] { return new Shoplist(dialogs); });
     QObject::connect(&startfrm, &Startfrm::exitConfirmed, &app, [] { QApplication::exit(0); });
     startfrm.show();
     return app.exec();

@@ -202,6 +202,19 @@ TEST(PageBuilder, LinesAndRectanglesTakeTheTextColour)
     EXPECT_EQ((std::array{rect.left, rect.top, rect.width, rect.height}), (std::array{10.0, 20.0, 30.0, 40.0}));
 }
 
+TEST(PageDocument, LinesAreTheLinesDrawnInTheirOrderAndNothingElse)
+{
+    PageBuilder page = ZeroMarginBuilder();
+    page.drawLine(1, 2, 3, 4);
+    page.printLine(QStringLiteral("text"));
+    page.drawRect(10, 20, 30, 40);
+    page.drawLine(5, 6, 7, 8);
+    const QList<LineItem> lines = page.document().pages[0].lines();
+    ASSERT_EQ(lines.size(), 2);
+    EXPECT_EQ((std::array{lines[0].x1, lines[0].y1, lines[0].x2, lines[0].y2}), (std::array{1.0, 2.0, 3.0, 4.0}));
+    EXPECT_EQ((std::array{lines[1].x1, lines[1].y1, lines[1].x2, lines[1].y2}), (std::array{5.0, 6.0, 7.0, 8.0}));
+}
+
 TEST(PageDocument, TextsAtALineReadLeftToRight)
 {
     PageBuilder page = ZeroMarginBuilder();

@@ -353,11 +353,13 @@ TEST(PagePainter, PaintsTheTextWhereTheDocumentPutsIt)
     EXPECT_LE(firstDark, 366);
 }
 
-TEST_F(PanelFixture, ThePanelFitsAScreenOf800By600)
+TEST_F(PanelFixture, ThePanelWithItsPageButtonsFitsBothSmallWindows)
 {
-    screen.resize(800, 600);
-    panel->setGeometry(screen.rect());
-    panel->open();
-    QApplication::processEvents();
-    EXPECT_EQ(FitProblems(&screen).join(u'\n').toStdString(), "");
+    for (const FitSize& fit : kFitSizes) {
+        screen.resize(fit.size);
+        panel->setGeometry(screen.rect());
+        panel->open();
+        QApplication::processEvents();
+        EXPECT_EQ(FitProblems(&screen), QStringList()) << fit.name;
+    }
 }

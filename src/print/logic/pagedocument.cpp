@@ -4,14 +4,29 @@
 #include <algorithm>
 #include <cmath>
 
-QList<TextItem> Page::texts() const
+namespace {
+
+template <class Item>
+QList<Item> ItemsOfKind(const QList<PageItem>& items)
 {
-    QList<TextItem> result;
+    QList<Item> result;
     for (const PageItem& item : items) {
-        if (const auto* text = std::get_if<TextItem>(&item))
-            result.append(*text);
+        if (const auto* found = std::get_if<Item>(&item))
+            result.append(*found);
     }
     return result;
+}
+
+} // namespace
+
+QList<TextItem> Page::texts() const
+{
+    return ItemsOfKind<TextItem>(items);
+}
+
+QList<LineItem> Page::lines() const
+{
+    return ItemsOfKind<LineItem>(items);
 }
 
 const TextItem* Page::findText(const QString& text) const

@@ -40,6 +40,8 @@ struct Page {
     QList<PageItem> items;
 
     QList<TextItem> texts() const;
+    // The lines drawn on the page, in the order drawn.
+    QList<LineItem> lines() const;
     // The first text item that reads exactly `text`, or nothing.
     const TextItem* findText(const QString& text) const;
     // The text items on the line whose top is `y` (within a twip), left to right.

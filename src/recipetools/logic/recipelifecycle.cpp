@@ -1,11 +1,11 @@
 #include "recipetools/logic/recipelifecycle.h"
 
+#include "common/listorder.h"
 #include "cookbook/logic/cookbookfiles.h"
 #include "cookbook/logic/cookbooknames.h"
 #include "cookbook/logic/nameentry.h"
 
 #include <QCoreApplication>
-#include <algorithm>
 
 namespace {
 
@@ -60,9 +60,7 @@ RecipeFields FieldsOfRecord(const RecipeRecord& record)
 
 void SortEntries(QStringList& entries)
 {
-    std::stable_sort(entries.begin(), entries.end(), [](const QString& a, const QString& b) {
-        return QString::compare(a, b, Qt::CaseInsensitive) < 0;
-    });
+    SortListTexts(entries);
 }
 
 WriteOutcome SaveExistingRecipe(int cookbook, RecordNumber recordNumber, const RecipeFields& fields,

@@ -79,12 +79,14 @@ Form24::Form24(Dialogs& dialogs, StorageKind kind, QWidget* parent)
     export_ = new StorageExportPanel(dialogs, [this] { return exportRows(); }, central);
     connect(export_, &StorageExportPanel::closeRequested, this, &Form24::closeExport);
     buildPrintPanel(central);
-    buildGridBackgroundSelector();
+    // The selector is larger than a small screen's grid area: it lies over
+    // the whole window.
+    gridColors_ = new GridColorChoice(dialogs, grid_, this, Settings::Form24GridBackground, Settings::Form24GridTextColor);
 
     QList<QWidget*> coloured{captionStrip_, fieldsPanel_, categoryPanel_, commandPanel_, pie_, percent_, export_};
     coloured += printPanel_->colouredPanels();
     addColouredPanels(coloured);
-    applyGridColors();
+    gridColors_->apply();
     declareEscapeOrder();
 
     model_.load();

@@ -11,6 +11,7 @@
 #include "storage/logic/storagestates.h"
 
 #include "shell/kit/activitywindow.h"
+#include "shell/screens/gridcolorchoice.h"
 
 #include <functional>
 
@@ -62,7 +63,7 @@ public:
     PercentPanel* percentPanel() const { return percent_; }
     PrintOptionsPanel* printPanel() const { return printPanel_; }
     StorageExportPanel* exportPanel() const { return export_; }
-    BackgroundSelector* gridBackgroundSelector() const { return backgroundSelector_; }
+    BackgroundSelector* gridBackgroundSelector() const { return gridColors_->selector(); }
     // The cell the input box writes to: table row (0: none) and column.
     int entryRow() const { return entryRow_; }
     int entryColumn() const { return entryColumn_; }
@@ -120,10 +121,6 @@ private:
     void openExport();
     void closeExport();
     QList<QStringList> exportRows() const;
-    void buildGridBackgroundSelector();
-    void chooseGridBackground();
-    void chooseGridTextColor();
-    void applyGridColors();
     void backup();
     void restore();
     void closePanel(QWidget* panel);
@@ -148,7 +145,7 @@ private:
     PrintOptionsPanel* printPanel_ = nullptr;
     StoragePrintOptions* printOptions_ = nullptr;
     StorageExportPanel* export_ = nullptr;
-    BackgroundSelector* backgroundSelector_ = nullptr;
+    GridColorChoice* gridColors_ = nullptr;
     int entryRow_ = 0;                         // the remembered cell of the input box
     int entryColumn_ = -1;
     bool filling_ = false;                     // the grid is being filled: no cursor rules

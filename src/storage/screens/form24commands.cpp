@@ -40,10 +40,10 @@ std::vector<CommandRow<Form24Command>> Form24::commandRows()
     const auto kind = [this](StorageKind shown) { return [this, shown] { switchKind(shown); }; };
     return {
         {GridBackground, {.name = "mGridBackground", .menu = "mOptions", .caption = "Grid &Background Selector",
-                          .run = [this] { chooseGridBackground(); },
+                          .run = [this] { gridColors_->chooseBackground(); },
                           .enabled = rule(&StorageCommandStates::colors)}},
         {GridTextColor, {.name = "mGridTextColor", .menu = "mOptions", .caption = "Grid &Text  Color",
-                         .toolbar = {Toolbar::Side, 1}, .run = [this] { chooseGridTextColor(); },
+                         .toolbar = {Toolbar::Side, 1}, .run = [this] { gridColors_->chooseTextColor(); },
                          .enabled = rule(&StorageCommandStates::colors)}},
         {PanelColor, panelColor},
         {ApproxAmounts, {.name = "mApproxAmounts", .menu = "mOptions", .caption = "&Approximate Amounts",
@@ -105,8 +105,7 @@ void Form24::declareEscapeOrder()
 {
     setEscapeOrder({
         {[this] { return calendar_->isOpen(); }, [this] { calendar_->hide(); }},
-        {[this] { return backgroundSelector_->isOpen(); },
-         [this] { backgroundSelector_->toggle(Background::standard()); }},
+        {[this] { return gridColors_->selector()->isOpen(); }, [this] { gridColors_->chooseBackground(); }},
         {[this] { return panel_ == StoragePanel::Export; }, [this] { closeExport(); }},
         {[this] { return panel_ == StoragePanel::Rollup; }, [this] { closeRollup(); }},
         {[this] { return panel_ == StoragePanel::Print; }, [this] { printPanel_->pressEscape(); }},

@@ -82,46 +82,6 @@ void Form24::copyTable()
     dialogs().ask(kCopiedMessage);
 }
 
-// ---- The grid's colours ------------------------------------------------------------
-
-void Form24::applyGridColors()
-{
-    grid_->setPalette(QPalette());
-    grid_->applyColors(ReadGridColors(Settings::Form24GridBackground, Settings::Form24GridTextColor));
-}
-
-// The main screen's background selector, storing its choice for the grid:
-// the grid shows a picture or colour as it is clicked, and what is stored
-// once the panel closes.
-void Form24::buildGridBackgroundSelector()
-{
-    // The selector is larger than a small screen's grid area: it lies over
-    // the whole window.
-    backgroundSelector_ = new BackgroundSelector(dialogs(), this);
-    backgroundSelector_->setStore([](const Background& chosen) {
-        return StoreSlotText(Settings::Form24GridBackground, GridBackgroundText(chosen));
-    });
-    connect(backgroundSelector_, &BackgroundSelector::previewBackground, this, [this](const Background& shown) {
-        grid_->setPalette(QPalette());
-        grid_->applyColors(GridColorsOf(GridBackgroundText(shown), ReadSlotText(Settings::Form24GridTextColor)));
-    });
-    connect(backgroundSelector_, &BackgroundSelector::backgroundChosen, this, &Form24::applyGridColors);
-}
-
-void Form24::chooseGridBackground()
-{
-    backgroundSelector_->toggle(GridBackgroundOf(ReadSlotText(Settings::Form24GridBackground)));
-}
-
-void Form24::chooseGridTextColor()
-{
-    const std::optional<qint32> color = dialogs().chooseColor(ColorrefFromColor(grid_->palette().color(QPalette::Text)));
-    if (!color)
-        return;
-    WriteSlotText(Settings::Form24GridTextColor, QString::number(*color));
-    applyGridColors();
-}
-
 // ---- Printing ------------------------------------------------------------------------
 
 void Form24::buildPrintPanel(QWidget* area)
