@@ -1,1 +1,1 @@
-// Holds the pictures of the windows as Qt resources (see CMakeLists.txt).
+// Holds the program's icon and the help pages as Qt resources (see CMakeLists.txt).

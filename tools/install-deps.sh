@@ -8,6 +8,7 @@ packages=(
   libgl1-mesa-dev libhunspell-dev hunspell-en-us fonts-liberation
   libgtest-dev libbenchmark-dev
   poppler-utils xvfb xdotool imagemagick
+  desktop-file-utils appstream
 )
 missing=()
 for p in "${packages[@]}"; do

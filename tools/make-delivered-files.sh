@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Rebuilds the pictures and icons of the delivered file set
-# (resources/delivered) and the window icon (resources/screens/brindlepot.png).
+# (resources/delivered). The program's own icon is drawn as an SVG in
+# resources/icons and rendered by tools/make-icons.sh.
 #
 # Everything is drawn with ImageMagick 6 from nothing but this script: the
 # textures come from a fixed hash of the pixel position (no random source),
@@ -19,8 +20,7 @@ IM=/usr/bin/convert
 
 ROOT=$(cd "$(dirname "$0")/.." && pwd)
 OUT=$ROOT/resources/delivered
-SCREENS=$ROOT/resources/screens
-mkdir -p "$OUT" "$SCREENS"
+mkdir -p "$OUT"
 TMP=$(mktemp -d)
 trap 'rm -rf "$TMP"' EXIT
 
@@ -393,10 +393,6 @@ about() { # OUT, 200 x 200
     -compose over -composite "${JPEG[@]}" -quality 88 "$1"
 }
 
-window_icon() { # OUT, 256 x 256
-  "$IM" "$TMP/pot.png" -resize 256x256 -depth 8 "${PNG[@]}" "$1"
-}
-
 # ---------------------------------------------------------------------------
 # Faces, drawn at 256 x 256 and written as icons of 32 and 16 pixels
 # ---------------------------------------------------------------------------
@@ -449,7 +445,6 @@ done
 make_pot
 if want Splash; then splash "$OUT/Splash.jpg"; echo Splash.jpg; fi
 if want About; then about "$OUT/About.jpg"; echo About.jpg; fi
-if want brindlepot.png; then window_icon "$SCREENS/brindlepot.png"; echo screens/brindlepot.png; fi
 if want 1.ico; then face "$OUT/1.ico" mild; echo 1.ico; fi
 if want 2.ico; then face "$OUT/2.ico" big; echo 2.ico; fi
 if want Sad1.ico; then face "$OUT/Sad1.ico" sad; echo Sad1.ico; fi

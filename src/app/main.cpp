@@ -4,6 +4,7 @@
 #include "guides/screens/foodg.h"
 #include "planner/screens/zcalandar.h"
 #include "recipetools/screens/form5.h"
+#include "shell/kit/programidentity.h"
 #include "shell/kit/qtdialogs.h"
 #include "shell/logic/deliveredfiles.h"
 #include "shell/logic/folderaccess.h"
@@ -20,6 +21,7 @@ int main(int argc, char** argv)
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Brindlepot"));
     QApplication::setApplicationVersion(QStringLiteral("7.0"));
+    InstallProgramIdentity();
 
     InstallDeliveredFiles(ProgramFolder());
     QtDialogs dialogs;

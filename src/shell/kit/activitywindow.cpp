@@ -4,12 +4,12 @@
 #include "shell/kit/accesskeys.h"
 #include "shell/kit/helpwindow.h"
 #include "shell/kit/panelcolors.h"
+#include "shell/kit/programidentity.h"
 #include "shell/kit/screenstatusbar.h"
 #include "shell/kit/screentoolbars.h"
 
 #include <QCloseEvent>
 #include <QContextMenuEvent>
-#include <QIcon>
 #include <QKeyEvent>
 #include <QMenu>
 
@@ -18,7 +18,7 @@ ActivityWindow::ActivityWindow(Dialogs& dialogs, const ScreenFrame& frame, QWidg
 {
     setObjectName(QString::fromLatin1(frame.name));
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowIcon(QIcon(QStringLiteral(":/screens/brindlepot.png")));
+    setWindowIcon(ProgramIcon());
     statusBar_ = new ScreenStatusBar(this);
     setStatusBar(statusBar_);
     panelColors_ = new PanelColors(dialogs_, frame.panelColor, statusBar_, this);

@@ -19,6 +19,7 @@
 #include "shell/screens/splash1.h"
 #include "shell/kit/accesskeys.h"
 #include "shell/kit/activitywindow.h"
+#include "shell/kit/programidentity.h"
 #include "shell/kit/raisedpanel.h"
 
 #include <QApplication>
@@ -65,7 +66,7 @@ Startfrm::Startfrm(Dialogs& dialogs, const ScreenMetrics& screen, QWidget* paren
     : QMainWindow(parent), dialogs_(dialogs), screen_(screen)
 {
     setObjectName(QStringLiteral("Startfrm"));
-    setWindowIcon(QIcon(QStringLiteral(":/screens/brindlepot.png")));
+    setWindowIcon(ProgramIcon());
     central_ = new QWidget(this);
     central_->setObjectName(QStringLiteral("MainArea"));
     central_->setAutoFillBackground(true);

@@ -1,0 +1,87 @@
+# Makes the Debian package of the build tree with CPack into a scratch folder
+# and reads it back with dpkg-deb: its name, version and architecture, the
+# control fields a family's apt needs, the dependencies as configured, and
+# exactly the installed files under /usr.
+#
+# cmake -DBUILD_DIR=... -DWORK_DIR=... -DAPP_ID=... -DVERSION=... -DDEPENDS="..." -P check_package.cmake
+cmake_policy(VERSION 3.25)
+include(${CMAKE_CURRENT_LIST_DIR}/expected_files.cmake)
+
+foreach(v BUILD_DIR WORK_DIR APP_ID VERSION DEPENDS)
+  if(NOT DEFINED ${v} OR "${${v}}" STREQUAL "")
+    message(FATAL_ERROR "${v} is not set")
+  endif()
+endforeach()
+
+file(REMOVE_RECURSE "${WORK_DIR}")
+file(MAKE_DIRECTORY "${WORK_DIR}")
+get_filename_component(cmake_dir "${CMAKE_COMMAND}" DIRECTORY)
+find_program(CPACK cpack HINTS "${cmake_dir}" NO_DEFAULT_PATH)
+if(NOT CPACK)
+  find_program(CPACK cpack REQUIRED)
+endif()
+execute_process(COMMAND "${CPACK}" -G DEB --config "${BUILD_DIR}/CPackConfig.cmake" -B "${WORK_DIR}"
+                WORKING_DIRECTORY "${WORK_DIR}"
+                RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE err)
+if(NOT rc EQUAL 0)
+  message(FATAL_ERROR "cpack failed (${rc}):\n${out}${err}")
+endif()
+file(GLOB debs "${WORK_DIR}/brindlepot_${VERSION}_*.deb")
+list(LENGTH debs count)
+if(NOT count EQUAL 1)
+  file(GLOB made "${WORK_DIR}/*.deb")
+  message(FATAL_ERROR "expected one brindlepot_${VERSION}_<arch>.deb, cpack made: ${made}")
+endif()
+
+function(field deb name out)
+  execute_process(COMMAND dpkg-deb -f "${deb}" ${name} OUTPUT_VARIABLE value RESULT_VARIABLE rc
+                  OUTPUT_STRIP_TRAILING_WHITESPACE)
+  if(NOT rc EQUAL 0)
+    message(FATAL_ERROR "dpkg-deb -f ${deb} ${name} failed")
+  endif()
+  set(${out} "${value}" PARENT_SCOPE)
+endfunction()
+
+function(expect_field deb name expected)
+  field("${deb}" ${name} value)
+  if(NOT value STREQUAL expected)
+    message(FATAL_ERROR "${name}: '${value}', expected '${expected}'")
+  endif()
+endfunction()
+
+execute_process(COMMAND dpkg --print-architecture OUTPUT_VARIABLE arch OUTPUT_STRIP_TRAILING_WHITESPACE)
+expect_field("${debs}" Package brindlepot)
+expect_field("${debs}" Version "${VERSION}")
+expect_field("${debs}" Architecture "${arch}")
+expect_field("${debs}" Depends "${DEPENDS}")
+foreach(name Maintainer Section Priority Homepage Description)
+  field("${debs}" ${name} value)
+  if(value STREQUAL "")
+    message(FATAL_ERROR "the package has no ${name}")
+  endif()
+endforeach()
+field("${debs}" Description description)
+string(REGEX MATCH "^[^\n]+\n .+" has_long "${description}")
+if(NOT has_long)
+  message(FATAL_ERROR "the description has no long text under its summary:\n${description}")
+endif()
+
+execute_process(COMMAND dpkg-deb -c "${debs}" OUTPUT_VARIABLE listing RESULT_VARIABLE rc)
+if(NOT rc EQUAL 0)
+  message(FATAL_ERROR "dpkg-deb -c failed")
+endif()
+# "-rwxr-xr-x root/root  123 2026-01-01 00:00 ./usr/bin/brindlepot"
+string(REGEX MATCHALL "\n-[^\n]* \\./usr/[^\n]+" lines "\n${listing}")
+set(files)
+foreach(line IN LISTS lines)
+  string(REGEX REPLACE ".* \\./usr/" "" path "${line}")
+  list(APPEND files "${path}")
+endforeach()
+list(SORT files)
+expected_install_files(expected ${APP_ID})
+expect_same_files("files in the package under /usr" "${expected}" "${files}")
+string(REGEX MATCH "\n-rwxr-xr-x root/root[^\n]* \\./usr/bin/brindlepot\n" executable "\n${listing}\n")
+if(NOT executable)
+  message(FATAL_ERROR "usr/bin/brindlepot is not an executable owned by root:\n${listing}")
+endif()
+message(STATUS "${debs}:\n${listing}")
