@@ -48,6 +48,14 @@ struct FolderRequest {
     bool operator==(const FolderRequest&) const = default;
 };
 
+// What became of a print job.
+struct Printed {
+    bool sent = false;   // the pages went to the printer or the file
+    QString pdfFile;     // the file written, when printed to a PDF file
+
+    bool operator==(const Printed&) const = default;
+};
+
 struct PrintJob {
     QString title;
     PageSetup setup;
@@ -81,8 +89,7 @@ public:
     // The print dialog for a document of `job.pageCount` pages. When the
     // user accepts, `job.render` paints pages `first` to `last` (1-based)
     // on the chosen device: a printer, or a PDF file for "print to file".
-    // True when the document was sent.
-    virtual bool print(const PrintJob& job) = 0;
+    virtual Printed print(const PrintJob& job) = 0;
 
     // A message with only an OK button.
     void tell(const QString& title, const QString& text, Icon icon = Icon::None)

@@ -228,3 +228,23 @@ TEST(QtDialogs, EscapeInTheFontListsCancelsTheWholeFontDialog)
     QApplication::processEvents();
     EXPECT_FALSE(stillUp);
 }
+
+TEST(QtDialogs, APdfIsProposedInTheDocumentsFolderOrElseAtHome)
+{
+    QTemporaryDir home;
+    const QByteArray oldHome = qgetenv("HOME");
+    const QByteArray oldConfig = qgetenv("XDG_CONFIG_HOME");
+    qputenv("HOME", home.path().toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", home.filePath(QStringLiteral(".config")).toLocal8Bit());
+    EXPECT_EQ(ProposedPdfFile(QStringLiteral("Beef Stew")), home.filePath(QStringLiteral("Beef Stew.pdf")))
+        << "no documents folder yet";
+    ASSERT_TRUE(QDir(home.path()).mkdir(QStringLiteral("Documents")));
+    EXPECT_EQ(ProposedPdfFile(QStringLiteral("Beef Stew")), home.filePath(QStringLiteral("Documents/Beef Stew.pdf")));
+    EXPECT_EQ(ProposedPdfFile(QStringLiteral("Menu 1/2/2027")),
+              home.filePath(QStringLiteral("Documents/Menu 1-2-2027.pdf")));
+    qputenv("HOME", oldHome);
+    if (oldConfig.isEmpty())
+        qunsetenv("XDG_CONFIG_HOME");
+    else
+        qputenv("XDG_CONFIG_HOME", oldConfig);
+}

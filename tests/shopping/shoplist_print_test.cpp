@@ -16,7 +16,9 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QMenu>
+#include <QDir>
 #include <QRadioButton>
+#include <QStatusBar>
 
 class ShoplistPrintTest : public ShoplistTest {
 protected:
@@ -176,6 +178,18 @@ TEST_F(ShoplistPrintTest, PrintToAPdfGivesTheListOnPaper)
     for (const char* part : {"Grocery Shopping List", "Sunday, November 15, 2026", "Grocery Items",
                              "Amount to Purchase", "Milk", "Eggs", "1 Dozen"})
         EXPECT_TRUE(text.contains(part)) << part << "\n" << text.toStdString();
+    EXPECT_EQ(form->statusBar()->currentMessage(), "Printed to " + QDir::toNativeSeparators(pdf))
+        << "the status bar says where the file went";
+}
+
+TEST_F(ShoplistPrintTest, ACancelledPrintSaysNothingInTheStatusBar)
+{
+    auto form = open();
+    addItem(*form, "Milk");
+    act(*form, "mPrintOptions")->trigger();
+    dialogs.expectPrint("");
+    panel(*form)->command(PrintOptionsPanel::kPrint)->click();
+    EXPECT_EQ(form->statusBar()->currentMessage(), QString());
 }
 
 TEST_F(ShoplistPrintTest, CopyCurrentPageTellsTheUser)

@@ -122,14 +122,16 @@ std::optional<PageSetup> ScriptedDialogs::pageSetup(const PageSetup& current)
     return expected ? expected->reply : std::nullopt;
 }
 
-bool ScriptedDialogs::print(const PrintJob& job)
+Printed ScriptedDialogs::print(const PrintJob& job)
 {
     printJobs_.append(job);
     const auto expected = next<ExpectedPrint>("print dialog");
     if (!expected || expected->pdfPath.isEmpty())
-        return false;
+        return {};
     QPdfWriter writer(expected->pdfPath);
     writer.setTitle(job.title);
     writer.setPageLayout(PageLayoutOf(job.setup));
-    return job.render(writer, 1, job.pageCount);
+    if (!job.render(writer, 1, job.pageCount))
+        return {};
+    return {true, expected->pdfPath};
 }

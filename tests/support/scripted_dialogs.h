@@ -37,7 +37,7 @@ public:
     std::optional<TextFont> chooseFont(const TextFont& initial) override;
     std::optional<QString> chooseFolder(const FolderRequest& request) override;
     std::optional<PageSetup> pageSetup(const PageSetup& current) override;
-    bool print(const PrintJob& job) override;
+    Printed print(const PrintJob& job) override;
 
     const QList<Message>& messages() const { return messages_; }
     const QList<InputRequest>& inputs() const { return inputs_; }

@@ -13,20 +13,25 @@
 #include "print/screens/pagepreview.h"
 
 #include <QClipboard>
+#include <QDir>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QStatusBar>
 #include <QVBoxLayout>
 
 namespace {
 
 // The clipboard gets the page at a resolution that pastes sharply.
 constexpr double kClipboardDotsPerInch = 150;
+// How long the status bar says where a printed file went.
+constexpr int kPrintedMessageMilliseconds = 15000;
 // The sample is shown at most this large, whatever the printer size.
 constexpr double kLargestSampleSize = 20;
 
@@ -251,10 +256,16 @@ void PrintOptionsPanel::printDocument()
 {
     // A printer that fails stops the command; the panel stays as it is.
     const PageDocument document = this->document();
-    dialogs_.print(PrintJob{documentName_, pageSetup_, document.pageCount(),
-                            [&document](QPagedPaintDevice& device, int first, int last) {
-                                return RenderPages(device, document, first, last);
-                            }});
+    const Printed printed = dialogs_.print(PrintJob{documentName_, pageSetup_, document.pageCount(),
+                                                    [&document](QPagedPaintDevice& device, int first, int last) {
+                                                        return RenderPages(device, document, first, last);
+                                                    }});
+    // A file is somewhere the user must find again: the status bar says where.
+    if (printed.sent && !printed.pdfFile.isEmpty()) {
+        if (auto* screen = qobject_cast<QMainWindow*>(window()))
+            screen->statusBar()->showMessage(QStringLiteral("Printed to %1").arg(QDir::toNativeSeparators(printed.pdfFile)),
+                                             kPrintedMessageMilliseconds);
+    }
 }
 
 void PrintOptionsPanel::toggleLarge()

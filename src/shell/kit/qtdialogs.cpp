@@ -23,6 +23,7 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QPushButton>
+#include <QStandardPaths>
 #include <QVBoxLayout>
 
 namespace {
@@ -203,21 +204,33 @@ std::optional<PageSetup> QtDialogs::pageSetup(const PageSetup& current)
     return PageSetupOf(printer.pageLayout());
 }
 
-bool QtDialogs::print(const PrintJob& job)
+Printed QtDialogs::print(const PrintJob& job)
 {
     QPrinter printer(QPrinter::HighResolution);
     PreparePrinter(printer, job.setup);
     printer.setDocName(job.title);
     // With no printer installed, a PDF file is the only way out: offer one
-    // named after the document in the home folder.
+    // named after the document in the user's documents folder.
     if (QPrinterInfo::availablePrinters().isEmpty())
-        printer.setOutputFileName(QDir::home().filePath(job.title + QStringLiteral(".pdf")));
+        printer.setOutputFileName(ProposedPdfFile(job.title));
     QPrintDialog dialog(&printer, QApplication::activeWindow());
     dialog.setMinMax(1, qMax(1, job.pageCount));
     if (dialog.exec() != QDialog::Accepted)
-        return false;
+        return {};
     const bool range = printer.printRange() == QPrinter::PageRange && printer.fromPage() > 0;
     const int first = range ? printer.fromPage() : 1;
     const int last = range ? qMin(printer.toPage(), job.pageCount) : job.pageCount;
-    return job.render(printer, first, last);
+    if (!job.render(printer, first, last))
+        return {};
+    return {true, printer.outputFormat() == QPrinter::PdfFormat ? printer.outputFileName() : QString()};
+}
+
+QString ProposedPdfFile(const QString& title)
+{
+    QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    if (folder.isEmpty() || !QDir(folder).exists())
+        folder = QDir::homePath();
+    QString name = title;
+    name.replace(u'/', u'-');
+    return QDir(folder).filePath(name + QStringLiteral(".pdf"));
 }

@@ -16,5 +16,10 @@ public:
     std::optional<TextFont> chooseFont(const TextFont& initial) override;
     std::optional<QString> chooseFolder(const FolderRequest& request) override;
     std::optional<PageSetup> pageSetup(const PageSetup& current) override;
-    bool print(const PrintJob& job) override;
+    Printed print(const PrintJob& job) override;
 };
+
+// The PDF file the print dialog proposes when no printer is installed: the
+// document's title (a "/" in it made "-") in the user's documents folder,
+// or in the home folder when there is none.
+QString ProposedPdfFile(const QString& title);
