@@ -21,6 +21,7 @@ class BackgroundSelector;
 class Clock;
 class EntryBox;
 class ListChooser;
+enum class ListChoice;
 class ListPrintOptions;
 class PageBuilder;
 class PopupCalendar;
@@ -110,6 +111,7 @@ private:
     bool saveQuestionAllowsAction();
     bool save();
     void newList();
+    QString chooseSavedList(ListChoice choice);
     void openList();
     void deleteList();
     void clearGridCommand();

@@ -74,16 +74,23 @@ void Shoplist::newList()
     focusCommandButton(ShoplistCommand::Exit);
 }
 
+// The list picked on Open1; empty when the user cancelled or there was
+// none to pick, which is said.
+QString Shoplist::chooseSavedList(ListChoice choice)
+{
+    const QString chosen = chooser_->chooseList(choice);
+    if (chosen != QLatin1String(kNoSavedLists))
+        return chosen;
+    dialogs().tell(QStringLiteral("Open/Delete List Action"), QStringLiteral("Currently, there are No Saved Lists"),
+                   Icon::Information);
+    return {};
+}
+
 void Shoplist::openList()
 {
     if (!saveQuestionAllowsAction())
         return;
-    const QString chosen = chooser_->chooseList(ListChoice::Open);
-    if (chosen == QLatin1String(kNoSavedLists)) {
-        dialogs().tell(QStringLiteral("Open/Delete List Action"), QStringLiteral("Currently, there are No Saved Lists"),
-                       Icon::Information);
-        return;
-    }
+    const QString chosen = chooseSavedList(ListChoice::Open);
     if (chosen.isEmpty())
         return;
     clearGrid();
@@ -110,12 +117,7 @@ void Shoplist::openList()
 
 void Shoplist::deleteList()
 {
-    const QString chosen = chooser_->chooseList(ListChoice::Delete);
-    if (chosen == QLatin1String(kNoSavedLists)) {
-        dialogs().tell(QStringLiteral("Open/Delete List Action"), QStringLiteral("Currently, there are No Saved Lists"),
-                       Icon::Information);
-        return;
-    }
+    const QString chosen = chooseSavedList(ListChoice::Delete);
     if (chosen.isEmpty())
         return;
     const Answer answer = dialogs().ask({QStringLiteral("Delete File"),
