@@ -1,6 +1,7 @@
 // Random and cut-off files in place of a cookbook's files: nothing may crash,
 // and every value read stays within what its slot can hold.
 #include "cookbook/logic/cookbookfiles.h"
+#include "test_bytes.h"
 #include "cookbook/logic/nameentry.h"
 
 #include "layout_bytes.h"
@@ -13,15 +14,6 @@ namespace {
 
 // Fixed, so a failure repeats.
 constexpr std::mt19937::result_type kRandomStart = 20061;
-
-QByteArray RandomBytes(std::mt19937& random, qsizetype size)
-{
-    QByteArray bytes(size, '\0');
-    std::uniform_int_distribution<int> byte(0, 255);
-    for (char& b : bytes)
-        b = char(byte(random));
-    return bytes;
-}
 
 // Random bytes biased towards what the readers look at: plausible lengths,
 // kind 8, marks that are almost "Full1".

@@ -1,6 +1,7 @@
 // The meal lists: order, capacity, the rule for a line offered to a list,
 // the list files byte for byte, and the list editor's texts.
 #include "planner/logic/menuitemlist.h"
+#include "test_bytes.h"
 
 #include "temp_program_folder.h"
 #include "test_data.h"
@@ -9,14 +10,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-
-QByteArray ListBytes(const QStringList& items)
-{
-    QByteArray bytes;
-    for (const QString& item : items)
-        bytes += '"' + item.toLatin1() + "\"\r\n";
-    return bytes;
-}
 
 QStringList Numbered(int count)
 {
@@ -47,10 +40,10 @@ TEST(MenuItemList, ALoadedListIsInAlphabeticalOrderWithoutRegardToCase)
 TEST(MenuItemList, TheListFileIsFoundInAnyCase)
 {
     TempProgramFolder folder;
-    folder.writeBytes(QStringLiteral("menu3.fil"), ListBytes({"Stew"}));
+    folder.writeBytes(QStringLiteral("menu3.fil"), QuotedLineBytes({"Stew"}));
     EXPECT_EQ(MenuItemList::Load(Meal::Dinner).items(), QStringList{"Stew"});
     ASSERT_TRUE(MenuItemList({"Stew", "Roast"}).save(Meal::Dinner));
-    EXPECT_EQ(folder.bytesOf(QStringLiteral("menu3.fil")), ListBytes({"Roast", "Stew"}));
+    EXPECT_EQ(folder.bytesOf(QStringLiteral("menu3.fil")), QuotedLineBytes({"Roast", "Stew"}));
     EXPECT_FALSE(QFile::exists(folder.filePath(QStringLiteral("Menu3.Fil"))));
 }
 
@@ -78,7 +71,7 @@ TEST(MenuItemList, ALongerFileLoadsItsFirstThousandItems)
     TempProgramFolder folder;
     QStringList items = Numbered(1005);
     std::reverse(items.begin(), items.end());
-    folder.writeBytes(QStringLiteral("Menu2.Fil"), ListBytes(items));
+    folder.writeBytes(QStringLiteral("Menu2.Fil"), QuotedLineBytes(items));
     const MenuItemList list = MenuItemList::Load(Meal::Lunch);
     ASSERT_EQ(list.count(), 1000);
     EXPECT_EQ(list.items().first(), QStringLiteral("Dish 0005")) << "the file's first thousand, sorted";

@@ -3,6 +3,7 @@
 // read as days, views, printouts, lists, options and fonts, and a screen
 // opened over them. Nothing may crash, and what is read stays in bounds.
 #include "planner/logic/calendaroptions.h"
+#include "test_bytes.h"
 #include "planner/logic/menuitemlist.h"
 #include "planner/logic/menuprint.h"
 #include "planner/logic/menuview.h"
@@ -21,15 +22,6 @@
 #include <random>
 
 namespace {
-
-QByteArray RandomBytes(std::mt19937& random, int size)
-{
-    std::uniform_int_distribution<int> byte(0, 255);
-    QByteArray bytes(size, '\0');
-    for (char& c : bytes)
-        c = char(byte(random));
-    return bytes;
-}
 
 // Every reader of the planner over the files as they lie in the folder, the
 // view and the printout over `days` days from 1 March.

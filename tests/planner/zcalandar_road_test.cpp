@@ -4,6 +4,7 @@
 // page and a day copied, backup and restore, a day out of sight, and the
 // way out. Every message shown is checked, once, in order.
 #include "zcalandar_fixture.h"
+#include "test_bytes.h"
 
 #include "planner/screens/calendaroptionspanel.h"
 #include "planner/screens/editlistspanel.h"
@@ -22,14 +23,6 @@
 
 namespace {
 
-QByteArray ListBytes(const QStringList& items)
-{
-    QByteArray bytes;
-    for (const QString& item : items)
-        bytes += '"' + item.toLatin1() + "\"\r\n";
-    return bytes;
-}
-
 const QDate kMonday(2026, 12, 28);
 
 } // namespace
@@ -38,8 +31,8 @@ TEST_F(ZcalandarTest, AWeekAcrossNewYearFromPlanToPrintout)
 {
     PrintFont() = TextFont{};
     clock.set(QDateTime(kMonday, QTime(18, 30)));
-    folder.writeBytes(QStringLiteral("Menu1.Fil"), ListBytes({"Porridge"}));
-    folder.writeBytes(QStringLiteral("Menu3.Fil"), ListBytes({"Stew"}));
+    folder.writeBytes(QStringLiteral("Menu1.Fil"), QuotedLineBytes({"Porridge"}));
+    folder.writeBytes(QStringLiteral("Menu3.Fil"), QuotedLineBytes({"Stew"}));
     auto screen = openShown();
     // A font whose characters are all alike wide, for the copied columns.
     screen->setFont(QFont(QStringLiteral("Liberation Mono"), 10));
@@ -67,9 +60,9 @@ TEST_F(ZcalandarTest, AWeekAcrossNewYearFromPlanToPrintout)
     typeInto(line(*screen, 14), QStringLiteral("Roast"));
     QTest::keyClick(line(*screen, 14), Qt::Key_Return);
     button(*screen, 0)->click();
-    EXPECT_EQ(bytesOf(QStringLiteral("Menu1.Fil")), ListBytes({"Juice", "Pancakes", "Porridge"}));
-    EXPECT_EQ(bytesOf(QStringLiteral("Menu2.Fil")), ListBytes({"Tomato soup"}));
-    EXPECT_EQ(bytesOf(QStringLiteral("Menu3.Fil")), ListBytes({"Roast", "Stew"}));
+    EXPECT_EQ(bytesOf(QStringLiteral("Menu1.Fil")), QuotedLineBytes({"Juice", "Pancakes", "Porridge"}));
+    EXPECT_EQ(bytesOf(QStringLiteral("Menu2.Fil")), QuotedLineBytes({"Tomato soup"}));
+    EXPECT_EQ(bytesOf(QStringLiteral("Menu3.Fil")), QuotedLineBytes({"Roast", "Stew"}));
 
     // Tuesday, left unsaved for Wednesday: Yes writes it to Tuesday.
     pickDay(*screen, kMonday.addDays(1));
@@ -123,7 +116,7 @@ TEST_F(ZcalandarTest, AWeekAcrossNewYearFromPlanToPrintout)
     emit editor->itemList()->activated(roast);
     editor->button(EditListsPanel::kDelete)->click();
     editor->button(EditListsPanel::kClose)->click();
-    EXPECT_EQ(bytesOf(QStringLiteral("Menu3.Fil")), ListBytes({"Lasagne", "Stew"}));
+    EXPECT_EQ(bytesOf(QStringLiteral("Menu3.Fil")), QuotedLineBytes({"Lasagne", "Stew"}));
 
     // Colours: the text colour taken, the panel colour question cancelled.
     dialogs.expectColor(8388608);

@@ -2,6 +2,7 @@
 // takes, Enter, Tab and clicks, the lines offered to their lists, picks
 // from the drop-down, and a list that cannot be written.
 #include "zcalandar_fixture.h"
+#include "test_bytes.h"
 
 #include "common/colors.h"
 #include "common/widgets/qtcolors.h"
@@ -11,14 +12,6 @@
 #include <functional>
 
 namespace {
-
-QByteArray ListBytes(const QStringList& items)
-{
-    QByteArray bytes;
-    for (const QString& item : items)
-        bytes += '"' + item.toLatin1() + "\"\r\n";
-    return bytes;
-}
 
 const QColor kYellow = ColorFromColorref(QBColor(kFocusColorIndex));
 
@@ -95,7 +88,7 @@ TEST_F(ZcalandarTest, EnterOnTheLastLineGoesToTheFirstAndOffersItToTheDinnerList
     EXPECT_TRUE(line(*screen, 0)->hasFocus());
     EXPECT_EQ(screen->lineEntry().activeLine(), 0);
     EXPECT_EQ(screen->list(Meal::Dinner).items(), QStringList{"Apple crumble"});
-    EXPECT_EQ(bytesOf(QStringLiteral("Menu3.Fil")), ListBytes({"Apple crumble"}));
+    EXPECT_EQ(bytesOf(QStringLiteral("Menu3.Fil")), QuotedLineBytes({"Apple crumble"}));
     EXPECT_EQ(screen->linesPanel()->dropList(Meal::Dinner)->count(), 1);
     EXPECT_FALSE(QFile::exists(folder.filePath(QStringLiteral("Menu1.Fil"))));
 }
@@ -131,7 +124,7 @@ TEST_F(ZcalandarTest, AClickIntoAnotherLineOffersTheLineLeft)
     typeInto(line(*screen, 8), QStringLiteral("Minestrone"));
     QTest::mouseClick(line(*screen, 15), Qt::LeftButton);
     EXPECT_EQ(screen->list(Meal::Lunch).items(), QStringList{"Minestrone"});
-    EXPECT_EQ(bytesOf(QStringLiteral("Menu2.Fil")), ListBytes({"Minestrone"}));
+    EXPECT_EQ(bytesOf(QStringLiteral("Menu2.Fil")), QuotedLineBytes({"Minestrone"}));
 }
 
 TEST_F(ZcalandarTest, AOneCharacterLineStaysInTheDayOnly)
@@ -176,7 +169,7 @@ TEST_F(ZcalandarTest, APickFromTheDropDownFillsTheLineAndMovesOn)
 
 TEST_F(ZcalandarTest, TheDropDownButtonOpensTheListOverItsLine)
 {
-    folder.writeBytes(QStringLiteral("Menu3.Fil"), ListBytes({"Lasagne", "Chili"}));
+    folder.writeBytes(QStringLiteral("Menu3.Fil"), QuotedLineBytes({"Lasagne", "Chili"}));
     auto screen = openShown();
     QTest::mouseClick(line(*screen, 20), Qt::LeftButton);
     screen->linesPanel()->dropDownButton(Meal::Dinner)->trigger();

@@ -1,6 +1,7 @@
 // The planner's panels: the list editor, the calendar options, the text
 // colour, the panel colour, and backup and restore through the opener.
 #include "zcalandar_fixture.h"
+#include "test_bytes.h"
 
 #include "planner/screens/calendaroptionspanel.h"
 #include "planner/screens/editlistspanel.h"
@@ -18,14 +19,6 @@
 #include <QToolBar>
 
 namespace {
-
-QByteArray ListBytes(const QStringList& items)
-{
-    QByteArray bytes;
-    for (const QString& item : items)
-        bytes += '"' + item.toLatin1() + "\"\r\n";
-    return bytes;
-}
 
 QStringList ItemsOf(QComboBox* list)
 {
@@ -76,7 +69,7 @@ TEST_F(ZcalandarTest, EachListButtonShowsItsListFreshFromItsFile)
 {
     auto screen = openShown();
     button(*screen, 2)->click();
-    folder.writeBytes(QStringLiteral("Menu3.Fil"), ListBytes({"Stew", "Curry"}));
+    folder.writeBytes(QStringLiteral("Menu3.Fil"), QuotedLineBytes({"Stew", "Curry"}));
     EditListsPanel* panel = screen->editListsPanel();
     panel->button(EditListsPanel::kDinnerList)->click();
     EXPECT_EQ(panel->heading()->text(), QStringLiteral("Edit Dinner List"));

@@ -2,6 +2,7 @@
 // every cut of a good file, absurd sizes. Nothing may crash, and what comes
 // back stays within the list's and the catalogue's bounds.
 #include "shopping/logic/itemcatalogue.h"
+#include "test_bytes.h"
 #include "shopping/logic/listfiles.h"
 #include "shopping/logic/shoppinglist.h"
 
@@ -13,15 +14,6 @@
 #include <random>
 
 namespace {
-
-QByteArray RandomBytes(std::mt19937& random, int size)
-{
-    std::uniform_int_distribution<int> byte(0, 255);
-    QByteArray bytes(size, '\0');
-    for (char& b : bytes)
-        b = char(byte(random));
-    return bytes;
-}
 
 // A list read and shown: the grid never holds more rows than entries and
 // the header, and every row maps to an entry or to none.

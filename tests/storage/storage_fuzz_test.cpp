@@ -2,6 +2,7 @@
 // random and cut files, absurd values; nothing crashes, a table never has
 // more than 480 cells, and no sum ever reads "inf" or "nan".
 #include "common/numbertext.h"
+#include "test_bytes.h"
 #include "common/quotedlinefile.h"
 #include "storage/logic/storagefiles.h"
 
@@ -11,15 +12,6 @@
 #include <random>
 
 namespace {
-
-QByteArray RandomBytes(std::mt19937& random, int size)
-{
-    std::uniform_int_distribution<int> byte(0, 255);
-    QByteArray bytes(size, '\0');
-    for (char& c : bytes)
-        c = char(byte(random));
-    return bytes;
-}
 
 // Texts as a user or a damaged file may leave them in a cell.
 QString RandomCell(std::mt19937& random)
