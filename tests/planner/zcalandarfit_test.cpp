@@ -1,4 +1,5 @@
-// The planner in a window of 800 by 600: nothing cut off, squeezed or
+// The planner in a window of 800 by 600 and in the 960 by 540 of a 200 %
+// screen: nothing cut off, squeezed or
 // overlapping, with one and with three months, and with every panel open.
 #include "zcalandar_fixture.h"
 
@@ -30,7 +31,7 @@ protected:
     static std::string Problems(Zcalandar& screen)
     {
         QApplication::processEvents();
-        return FitProblems(&screen).join(u'\n').toStdString();
+        return FitProblemsAtBothSizes(&screen);
     }
 };
 

@@ -108,6 +108,14 @@ TEST_F(PopupCalendarTest, StaysInsideTheScreen)
     EXPECT_EQ(popup->geometry().bottomRight(), QPoint(screen.width() - 1, screen.height() - 1));
 }
 
+TEST_F(PopupCalendarTest, AScreenMadeSmallerTakesTheOpenCalendarAlong)
+{
+    popup->openAt(QPoint(790, 590), kSep30);
+    screen.resize(500, 400);
+    EXPECT_TRUE(screen.rect().contains(popup->geometry()));
+    EXPECT_EQ(popup->geometry().bottomRight(), QPoint(499, 399));
+}
+
 TEST_F(PopupCalendarTest, AClickWritesTheDateInTheGivenFormAndHides)
 {
     QSignalSpy picked(popup, &PopupCalendar::datePicked);

@@ -135,3 +135,14 @@ std::string FitProblemsAt(QWidget* window, QSize size)
     problems << FitProblems(window);
     return problems.join(u'\n').toStdString();
 }
+
+std::string FitProblemsAtBothSizes(QWidget* window)
+{
+    std::string problems;
+    for (const FitSize& fit : kFitSizes) {
+        const QString found = QString::fromStdString(FitProblemsAt(window, fit.size));
+        for (const QString& line : found.split(u'\n', Qt::SkipEmptyParts))
+            problems += std::string(fit.name) + ": " + line.toStdString() + "\n";
+    }
+    return problems;
+}

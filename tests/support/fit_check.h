@@ -26,3 +26,6 @@ inline constexpr FitSize kFitSizes[] = {{"800x600", {800, 600}}, {"960x540 (200 
 // The window resized to `size`: its problems, with a window that cannot
 // shrink that far named first; empty when it fits.
 std::string FitProblemsAt(QWidget* window, QSize size);
+// FitProblemsAt for each of the two windows, each line led by its size;
+// the window is left at the last size.
+std::string FitProblemsAtBothSizes(QWidget* window);

@@ -1,5 +1,6 @@
 #include "shell/kit/overlaypanel.h"
 
+#include "shell/kit/insideparent.h"
 #include "shell/kit/raisedpanel.h"
 
 #include <QApplication>
@@ -10,7 +11,6 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include <algorithm>
 
 OverlayPanel::OverlayPanel(const QString& objectName, const QString& caption, QWidget* parent) : QFrame(parent)
 {
@@ -29,8 +29,7 @@ OverlayPanel::OverlayPanel(const QString& objectName, const QString& caption, QW
     layout->addLayout(body_, 1);
     layout->addLayout(buttons_);
     hide();
-    if (parent)
-        parent->installEventFilter(this);
+    FollowParentSize(this);
 }
 
 QFormLayout* OverlayPanel::form()
@@ -54,7 +53,7 @@ QPushButton* OverlayPanel::addButton(const QString& objectName, const QString& c
 void OverlayPanel::open(QWidget* focus)
 {
     adjustSize();
-    keepInsideParent();
+    KeepInsideParent(this);
     show();
     raise();
     if (focus)
@@ -66,7 +65,8 @@ void OverlayPanel::centreInParent(double fromTop)
     const QWidget* area = parentWidget();
     if (!area)
         return;
-    move(std::max(0, (area->width() - width()) / 2), std::max(0, int((area->height() - height()) * fromTop)));
+    move((area->width() - width()) / 2, int((area->height() - height()) * fromTop));
+    KeepInsideParent(this);
 }
 
 void OverlayPanel::setVisible(bool visible)
@@ -74,27 +74,6 @@ void OverlayPanel::setVisible(bool visible)
     if (!visible && parentWidget() && isAncestorOf(QApplication::focusWidget()))
         parentWidget()->setFocus(Qt::OtherFocusReason);
     QFrame::setVisible(visible);
-}
-
-void OverlayPanel::keepInsideParent()
-{
-    const QWidget* area = parentWidget();
-    if (!area)
-        return;
-    // Never larger than the screen under it: what does not fit scrolls in
-    // the panel's grids and lists rather than running off the window.
-    const QSize least = minimumSizeHint();
-    resize(std::max(least.width(), std::min(width(), area->width())),
-           std::max(least.height(), std::min(height(), area->height())));
-    move(std::clamp(x(), 0, std::max(0, area->width() - width())),
-         std::clamp(y(), 0, std::max(0, area->height() - height())));
-}
-
-bool OverlayPanel::eventFilter(QObject* watched, QEvent* event)
-{
-    if (watched == parentWidget() && event->type() == QEvent::Resize && isVisible())
-        keepInsideParent();
-    return QFrame::eventFilter(watched, event);
 }
 
 void OverlayPanel::keyPressEvent(QKeyEvent* event)

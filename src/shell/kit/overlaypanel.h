@@ -46,12 +46,8 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
-    // The window under an open panel shrinking keeps the panel inside it.
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void keepInsideParent();
-
     QLabel* caption_ = nullptr;
     QVBoxLayout* body_ = nullptr;
     QFormLayout* form_ = nullptr;

@@ -1,6 +1,7 @@
 #include "shell/kit/popupcalendar.h"
 
 #include "common/clock.h"
+#include "shell/kit/insideparent.h"
 #include "shell/kit/raisedpanel.h"
 
 #include <QCalendarWidget>
@@ -23,6 +24,7 @@ PopupCalendar::PopupCalendar(const QString& objectName, QWidget* parent) : QFram
     connect(calendar_, &QCalendarWidget::clicked, this, &PopupCalendar::pick);
     connect(calendar_, &QCalendarWidget::activated, this, &PopupCalendar::pick);
     hide();
+    FollowParentSize(this);
 }
 
 void PopupCalendar::setTarget(QLineEdit* box, DateForm form)
@@ -47,10 +49,8 @@ void PopupCalendar::openAt(QPoint at, QDate date)
     calendar_->setSelectedDate(shown);
     calendar_->setCurrentPage(shown.year(), shown.month());
     resize(sizeHint());
-    const QSize room = parentWidget()->size();
-    at.setX(qMax(0, qMin(at.x(), room.width() - width())));
-    at.setY(qMax(0, qMin(at.y(), room.height() - height())));
     move(at);
+    KeepInsideParent(this);
     show();
     raise();
     calendar_->setFocus(Qt::PopupFocusReason);
