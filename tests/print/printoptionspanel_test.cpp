@@ -214,6 +214,28 @@ TEST_F(PanelFixture, ExitStoresTheFontWhereTheScreenKeepsIt)
     EXPECT_EQ(bytes.left(25 * 40), QByteArray(25 * 40, '\0')) << "no other slot is written";
 }
 
+TEST_F(PanelFixture, OpeningReadsTheFontWhereTheScreenKeepsIt)
+{
+    PrintFont() = TextFont{};
+    ASSERT_TRUE(WriteSlotTagged(Settings::WeightTrackerPrintFontName, QStringLiteral("Courier New")));
+    ASSERT_TRUE(WriteSlotTagged(Settings::WeightTrackerPrintFontSize, qint32(9)));
+    panel->setFontSlots({Settings::WeightTrackerPrintFontName, Settings::WeightTrackerPrintFontSize});
+    panel->open();
+    EXPECT_EQ(PrintFont().name, "Courier New");
+    EXPECT_EQ(PrintFont().size, 9);
+    EXPECT_EQ(panel->document().pages.value(0).texts().value(0).font.name, "Courier New");
+}
+
+TEST_F(PanelFixture, SlotsNeverWrittenLeaveTheFontAsItWas)
+{
+    PrintFont() = TextFont{};
+    PrintFont().name = QStringLiteral("Arial");
+    panel->setFontSlots({Settings::WeightTrackerPrintFontName, Settings::WeightTrackerPrintFontSize});
+    panel->open();
+    EXPECT_EQ(PrintFont().name, "Arial");
+    EXPECT_EQ(PrintFont().size, 12);
+}
+
 TEST_F(PanelFixture, ExitStoresNoFontForAScreenWithoutSlots)
 {
     panel->open();

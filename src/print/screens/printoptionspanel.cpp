@@ -176,6 +176,8 @@ const PageDocument& PrintOptionsPanel::document() const
 void PrintOptionsPanel::open()
 {
     guideLines_->load();
+    if (fontSlots_)
+        PrintFont() = StoredPrintFont(*fontSlots_, PrintFont());
     showFont();
     orientation_->setText(OrientationText(pageSetup_));
     recompose();

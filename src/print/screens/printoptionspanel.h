@@ -39,11 +39,12 @@ public:
     void setDocumentName(const QString& name) { documentName_ = name; }
     // A group of the screen's own options, placed under the panel's.
     void addOptionGroup(QWidget* group);
-    // The slots where "&Exit Print Options" stores the font's name and size,
-    // for the screens that keep them.
+    // The slots the font's name and size are read from when the panel opens
+    // and stored in by "&Exit Print Options", for the screens that keep them.
     void setFontSlots(const PrintFontSlots& where) { fontSlots_ = where; }
 
-    // Loads the guide line option, shows the font, composes and shows the panel.
+    // Loads the guide line option and the stored font, shows the font,
+    // composes and shows the panel.
     void open();
     // Composes the document again from the current font, page and options.
     void recompose();
