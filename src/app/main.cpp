@@ -10,6 +10,7 @@
 #include "shell/screens/singleinstance.h"
 #include "shell/screens/startfrm.h"
 #include "storage/screens/form24.h"
+#include "tracker/screens/weighttracker.h"
 
 #include <QApplication>
 
@@ -42,6 +43,7 @@ int main(int argc, char** argv)
     startfrm.registerActivity(MainCommand::MeasGuide, [&dialogs] { return new Convform(dialogs); });
     startfrm.registerActivity(MainCommand::Emergency,
                               [&dialogs] { return new Form24(dialogs, StorageKind::Emergency); });
+    startfrm.registerActivity(MainCommand::WeightTracker, [&dialogs] { return new WeightTracker(dialogs); });
     QObject::connect(&startfrm, &Startfrm::exitConfirmed, &app, [] { QApplication::exit(0); });
     startfrm.show();
     return app.exec();
