@@ -363,6 +363,8 @@ TEST_F(PanelFixture, AFontThatCannotBeStoredIsSaidAndThePanelStillCloses)
 {
     panel->setFontSlots({Settings::ZcalandarPrintFontName, Settings::ZcalandarPrintFontSize});
     panel->open();
+    // Opening read the font from the file, which made it: a folder takes its place.
+    ASSERT_TRUE(QFile::remove(QStringLiteral("GColor4.Fil")));
     ASSERT_TRUE(QDir().mkdir(QStringLiteral("GColor4.Fil")));
     const Message failed = WriteFailedMessage(QStringLiteral("GColor4.Fil"));
     dialogs.expectMessage(failed.title, failed.text);

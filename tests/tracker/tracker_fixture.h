@@ -7,6 +7,7 @@
 #include "test_data.h"
 #include "tracker/logic/trackerentry.h"
 #include "tracker/logic/weighins.h"
+#include "tracker_samples.h"
 
 #include <gtest/gtest.h>
 
@@ -25,16 +26,6 @@ inline QList<WeighInRow> RowsOf(std::initializer_list<std::pair<const char*, con
     QList<WeighInRow> rows;
     for (const auto& [date, weight] : cells)
         rows.append(StoredRow(QString::fromLatin1(date), QString::fromLatin1(weight)));
-    return rows;
-}
-
-// `count` daily weigh-ins from 1 January 2020, the weight falling a tenth
-// of a pound a day from 200.
-inline QList<WeighInRow> DailyRows(int count)
-{
-    QList<WeighInRow> rows;
-    for (int day = 0; day < count; ++day)
-        rows.append(StoredRow(TrackerDateText(QDate(2020, 1, 1).addDays(day)), QString::number(200 - day / 10.0)));
     return rows;
 }
 

@@ -30,7 +30,7 @@ protected:
         printout.fields.beginningPicture = QStringLiteral("/p/before.jpg");
         printout.fields.currentPicture = QStringLiteral("/p/now.jpg");
         printout.chartFile = QStringLiteral("Chartxxx.jpg");
-        printout.rows = DailyRows(3);
+        printout.rows = samples::DailyWeighIns(3);
         ComputeColumns(printout.rows, printout.fields.beginningWeight);
     }
 
@@ -233,7 +233,7 @@ TEST_F(TrackerPrintTest, TheTableSkipsBlankRowsAndShowsOneDecimal)
 
 TEST_F(TrackerPrintTest, ALongTableBreaksPagesAndNumbersItsHeadings)
 {
-    printout.rows = DailyRows(200);
+    printout.rows = samples::DailyWeighIns(200);
     for (const PageOrientation orientation : {PageOrientation::Portrait, PageOrientation::Landscape}) {
         const PageDocument document = compose(orientation);
         ASSERT_GT(document.pageCount(), 2);

@@ -22,7 +22,7 @@ protected:
 
 TEST_F(WeightGraphTest, FortyNineEntriesPlotFortyNinePointsAndThePlainTitle)
 {
-    QList<WeighInRow> rows = DailyRows(49);
+    QList<WeighInRow> rows = samples::DailyWeighIns(49);
     rows.append(WeighInRow{});
     const WeightGraph graph = graphOf(rows);
     EXPECT_EQ(graph.firstRow, 1);
@@ -35,7 +35,7 @@ TEST_F(WeightGraphTest, FortyNineEntriesPlotFortyNinePointsAndThePlainTitle)
 
 TEST_F(WeightGraphTest, FiftyEntriesPlotRowsOneToFiftyWithTheLimitedTitle)
 {
-    const WeightGraph graph = graphOf(DailyRows(50));
+    const WeightGraph graph = graphOf(samples::DailyWeighIns(50));
     EXPECT_EQ(graph.firstRow, 1);
     EXPECT_EQ(graph.weights.size(), 50);
     EXPECT_EQ(graph.pointCount, 50);
@@ -44,7 +44,7 @@ TEST_F(WeightGraphTest, FiftyEntriesPlotRowsOneToFiftyWithTheLimitedTitle)
 
 TEST_F(WeightGraphTest, SixtyEntriesPlotRowsElevenToSixty)
 {
-    const QList<WeighInRow> rows = DailyRows(60);
+    const QList<WeighInRow> rows = samples::DailyWeighIns(60);
     const WeightGraph graph = graphOf(rows);
     EXPECT_EQ(graph.firstRow, 11);
     EXPECT_EQ(graph.weights.size(), 50);
@@ -55,7 +55,7 @@ TEST_F(WeightGraphTest, SixtyEntriesPlotRowsElevenToSixty)
 
 TEST_F(WeightGraphTest, WithABlankRowInTheMiddleOnlyTheRowsAboveItArePlotted)
 {
-    QList<WeighInRow> rows = DailyRows(10);
+    QList<WeighInRow> rows = samples::DailyWeighIns(10);
     rows[4] = WeighInRow{};
     const WeightGraph graph = graphOf(rows);
     EXPECT_EQ(PlottedRowCount(rows), 4);

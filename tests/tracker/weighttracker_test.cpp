@@ -293,6 +293,7 @@ TEST_F(WeightTrackerTest, TheSavePromptYesSavesThenGoesOn)
     auto form = openPat();
     typeWeight(*form, 1, QStringLiteral("209"));
     expectSavePrompt(Answer::Yes);
+    dialogs.expectMessage("Save File Command", "File has been Saved.");
     run(*form, "mCreate");
     EXPECT_TRUE(dialogs.scriptDone());
     EXPECT_EQ(fileValues().value(15), "209");

@@ -54,8 +54,10 @@ struct Layout {
     void graph();
     void plan();
     void photos();
-    // True when the table took more than one page.
-    bool table(bool pagedHeading);
+    // True when the table took more than one page. A trial stops at the
+    // first page break: it only asks whether there is one.
+    enum class Run { Trial, Whole };
+    bool table(bool pagedHeading, Run run);
     void tableHeading(bool pagedHeading);
 };
 
@@ -184,7 +186,7 @@ void Layout::tableHeading(bool pagedHeading)
     bold(false);
 }
 
-bool Layout::table(bool pagedHeading)
+bool Layout::table(bool pagedHeading, Run run)
 {
     const int firstPage = page.pageNumber();
     page.printLine(QString());
@@ -196,6 +198,8 @@ bool Layout::table(bool pagedHeading)
                                : landscape                   ? kFirstPageReserveLandscape
                                                              : kFirstPageReservePortrait;
         if (page.currentY() > page.pageHeight() - reserve) {
+            if (run == Run::Trial)
+                return true;
             page.newPage();
             tableHeading(pagedHeading);
         }
@@ -227,7 +231,7 @@ void ComposeTrackerPrintout(PageBuilder& page, const TrackerPrintout& printout)
     if (printout.checks.data) {
         PageBuilder trial(page);
         Layout tried{trial, printout, landscape};
-        layout.table(tried.table(false));
+        layout.table(tried.table(false, Layout::Run::Trial), Layout::Run::Whole);
     }
     page.endDoc();
 }

@@ -35,10 +35,10 @@ bool WeightTracker::savePromptAllows()
     const Message question{QStringLiteral("Weight Tracker Information"),
                            QStringLiteral("Save changes made to Weight Tracker before next action or exiting?"),
                            Buttons::YesNoCancel, Icon::Question, 1};
-    // While a new individual is open ("&Create New File" off) Yes saves it
-    // as new.
+    // Yes saves as the commands do, messages and all: while a new
+    // individual is open ("&Create New File" off) as a new file.
     const auto save = [this] {
-        return commands_->action(TrackerCommand::Create)->isEnabled() ? saveFile(true) : saveNewFile();
+        return commands_->action(TrackerCommand::Create)->isEnabled() ? saveFile(false) : saveNewFile();
     };
     return saveQuestionAllows(question, save, [this] { model_.setChanged(false); });
 }
