@@ -85,11 +85,16 @@ WeightTracker::WeightTracker(Dialogs& dialogs, QWidget* parent)
     buildCommands(commandPanel_);
     trendColumn_->insertWidget(trendColumn_->count() - 1, commands_->button(TrackerCommand::Trend));
 
+    // The panels keep their own height; the weigh-ins or the plan take the
+    // rest, and with neither up the rest stays empty below the commands.
+    for (QWidget* panel : {static_cast<QWidget*>(captionStrip_), main, static_cast<QWidget*>(commandPanel_)})
+        panel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     auto* layout = new QVBoxLayout(central);
     layout->addWidget(captionStrip_);
     layout->addWidget(main);
     layout->addWidget(pages_, 1);
     layout->addWidget(commandPanel_);
+    layout->addStretch(0);
 
     calendar_ = new PopupCalendar(QStringLiteral("MonthView1"), central);
     calendar_->setClock(*clock_);

@@ -31,7 +31,7 @@ std::vector<CommandRow<TrackerCommand>> WeightTracker::commandRows()
     const auto rule = [this](bool TrackerCommandStates::*state) { return [this, state] { return on_.*state; }; };
     CommandSpec panelColor = panelColorCommand("mOptions");
     panelColor.enabled = rule(&TrackerCommandStates::colors);
-    CommandSpec exit = exitCommand("mFile", {"E&xit", 9});
+    CommandSpec exit = exitCommand("mFile", {"E&xit", 11});
     exit.enabled = rule(&TrackerCommandStates::exit);
     return {
         {View, {.name = "mView", .menu = "mFile", .caption = "&View Existing File", .button = {"&View Existing File", 0},
@@ -63,10 +63,10 @@ std::vector<CommandRow<TrackerCommand>> WeightTracker::commandRows()
                  .toolbar = {Toolbar::Side, 3}, .run = [this] { showGraph(); },
                  .enabled = rule(&TrackerCommandStates::individual)}},
         {AddRow, {.name = "mAddRow", .menu = "mOptions", .caption = "&Add Additional Row", .separatorBefore = true,
-                  .button = {"&Add Additional Row", 10}, .run = [this] { addRow(); },
+                  .button = {"&Add Additional Row", 9}, .run = [this] { addRow(); },
                   .enabled = rule(&TrackerCommandStates::individual)}},
         {DeleteRow, {.name = "mDeleteRow", .menu = "mOptions", .caption = "Delete Selected Row",
-                     .button = {"Delete Selected Row", 11}, .run = [this] { deleteRow(); },
+                     .button = {"Delete Selected Row", 10}, .run = [this] { deleteRow(); },
                      .enabled = rule(&TrackerCommandStates::individual)}},
         {DateChecker, {.name = "mDateChecker", .menu = "mOptions", .caption = "Turn OFF Date Checker",
                        .separatorBefore = true, .run = [this] { toggleDateChecker(); },
