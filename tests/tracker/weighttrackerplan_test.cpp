@@ -222,6 +222,10 @@ TEST_F(WeightTrackerPlanTest, TheGraphShowsTheThreeLinesWithItsCaption)
     EXPECT_EQ(dates->titleText(), "Weigh In Dates");
     EXPECT_EQ(dates->categoriesLabels().mid(0, 3), QStringList({"Mar-02-26", "Mar-09-26", "Mar-16-26"}));
     EXPECT_EQ(dates->count(), 4);
+    // Each label is centred under its point: the unit around it is its own.
+    EXPECT_EQ(dates->startValue(QStringLiteral("Mar-09-26")), 0.5);
+    EXPECT_EQ(dates->endValue(QStringLiteral("Mar-09-26")), 1.5);
+    EXPECT_EQ(dates->min(), -0.5);
     EXPECT_EQ(graph->closeButton()->text(), "&Close");
     graph->closeButton()->click();
     EXPECT_TRUE(graph->isHidden());

@@ -52,12 +52,13 @@ void PlotOn(QChart& chart, const WeightGraph& graph)
                             Series(QStringLiteral("Beginning Weight"), beginning)};
     auto* dates = new QCategoryAxis;
     dates->setTitleText(graph.axisTitle);
-    dates->setLabelsPosition(QCategoryAxis::AxisLabelsPositionOnValue);
     dates->setLabelsAngle(-90);
+    // Each point owns the unit around it, its label centred under it.
+    dates->setStartValue(-0.5);
     QStringList used;
     for (int x = 0; x < graph.labels.size(); ++x)
-        dates->append(UniqueLabel(graph.labels[x], used), x);
-    dates->setRange(0, qMax(1, graph.pointCount - 1));
+        dates->append(UniqueLabel(graph.labels[x], used), x + 0.5);
+    dates->setRange(-0.5, qMax(1, graph.pointCount) - 0.5);
     auto* weights = new QValueAxis;
     const GraphRange range = WeightRange(graph);
     weights->setRange(range.low, range.high);

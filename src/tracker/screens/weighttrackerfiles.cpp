@@ -87,6 +87,7 @@ void WeightTracker::viewExisting()
     showFields();
     fillGrid();
     showState();
+    nameList_->setFocus(Qt::OtherFocusReason);
 }
 
 void WeightTracker::createNew()

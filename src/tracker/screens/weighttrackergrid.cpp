@@ -80,7 +80,8 @@ void WeightTracker::fillRow(int row)
 
 void WeightTracker::fitColumns()
 {
-    const int width = grid_->viewport()->width() - kFixedColumnWidth;
+    // A pixel spare for the grid lines keeps the horizontal scroll bar away.
+    const int width = grid_->viewport()->width() - kFixedColumnWidth - 1;
     const int column = qMax(kColumnWidth / 2, width / 4);
     grid_->setColumnWidth(0, kFixedColumnWidth);
     for (int index = kDateColumn; index <= kDifferenceColumn; ++index)
