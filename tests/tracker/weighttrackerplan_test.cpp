@@ -5,7 +5,11 @@
 #include "common/writefailure.h"
 #include "pdf_text.h"
 #include "print/logic/printfont.h"
+#include "print/logic/guidelines.h"
+#include "print/screens/guidelineoptions.h"
+#include "print/screens/pagepreview.h"
 #include "print/screens/printoptionspanel.h"
+#include "raw_slots.h"
 #include "shell/kit/folderchooser.h"
 #include "shell/kit/picturechooserpanel.h"
 #include "shell/settings/settingsregistry.h"
@@ -23,6 +27,7 @@
 #include <QLabel>
 #include <QLineSeries>
 #include <QPlainTextEdit>
+#include <QRadioButton>
 #include <QTemporaryDir>
 
 namespace {
@@ -277,6 +282,17 @@ TEST_F(WeightTrackerPlanTest, ThePrintFontComesFromAndGoesToItsSlots)
     EXPECT_TRUE(form->printPanel()->isHidden());
     EXPECT_EQ(folder.bytesOf(QStringLiteral("GColor4.Fil")).mid(32 * 40, 6), QByteArray("\x03\x00\x0b\x00\x00\x00", 6));
     EXPECT_TRUE(act(*form, "mSave")->isEnabled());
+}
+
+TEST_F(WeightTrackerPlanTest, TheGuideLinesAreKeptInGColor3Slot80)
+{
+    ASSERT_TRUE(WriteSlotText(GColor3, 80, u"1"));
+    auto form = openPat();
+    run(*form, "mPrint");
+    EXPECT_TRUE(form->printPanel()->preview()->guideLines());
+    form->printPanel()->guideLineOptions()->option(0)->click();
+    EXPECT_EQ(ReadSlotText(GColor3, 80), "0");
+    EXPECT_EQ(folder.bytesOf(QStringLiteral("GColor3.Fil")).mid(79 * 20, 3), QByteArray("\1\0" "0", 3));
 }
 
 TEST_F(WeightTrackerPlanTest, ThePrintoutGoesToAPdf)
