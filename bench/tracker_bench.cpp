@@ -8,6 +8,7 @@
 #include "print/logic/pagebuilder.h"
 #include "print/screens/fontmeasurer.h"
 #include "shell/kit/qtdialogs.h"
+#include "shell/kit/screengrid.h"
 #include "shell/logic/processvalues.h"
 #include "tracker/logic/trackermodel.h"
 #include "tracker/logic/trackerprint.h"
