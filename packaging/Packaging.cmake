@@ -36,7 +36,7 @@ set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
 set(CPACK_PACKAGE_VENDOR "The Brindlepot developers")
 set(CPACK_PACKAGE_CONTACT "Brindlepot developers <brindlepot@users.noreply.github.com>")
 set(CPACK_PACKAGE_HOMEPAGE_URL "https://github.com/brindlepot/brindlepot")
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "kitchen program: family recipes, shopping lists, menus and food storage")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "kitchen program: recipes, shopping lists, menus, weight and food storage")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 
@@ -50,10 +50,10 @@ set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 "Brindlepot keeps the family's recipes in eight cookbooks, with search,
 printing and an amount calculator; makes shopping lists from recipes and
-common groceries; plans breakfast, lunch and dinner on a calendar; and
+common groceries; plans breakfast, lunch and dinner on a calendar;
+tracks each member's weight with a graph, a plan and photographs; and
 brings emergency food storage tables with their totals and charts, a
-food guide and a table of measurement conversions. A weight tracker is
-being built.
+food guide and a table of measurement conversions.
 .
 All data lives as plain files in one folder (~/.local/share/Brindlepot),
 so a whole collection can be carried from one computer to another.")

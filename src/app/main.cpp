@@ -13,6 +13,7 @@
 #include "shell/screens/startfrm.h"
 #include "storage/screens/form24.h"
 #include "shopping/screens/shoplist.h"
+#include "tracker/screens/weighttracker.h"
 
 #include <QApplication>
 
@@ -48,6 +49,7 @@ int main(int argc, char** argv)
                               [&dialogs] { return new Form24(dialogs, StorageKind::Emergency); });
     startfrm.registerActivity(MainCommand::MenuPlanner, [&dialogs] { return new Zcalandar(dialogs); });
     startfrm.registerActivity(MainCommand::ShoppingList, [&dialogs] { return new Shoplist(dialogs); });
+    startfrm.registerActivity(MainCommand::WeightTracker, [&dialogs] { return new WeightTracker(dialogs); });
     QObject::connect(&startfrm, &Startfrm::exitConfirmed, &app, [] { QApplication::exit(0); });
     startfrm.show();
     return app.exec();

@@ -237,6 +237,23 @@ TEST_F(ShownGrid, ABoldCellIsDrawnInTheGridsFontMadeBold)
     EXPECT_GT(boldWidth, plainWidth);
 }
 
+TEST_F(ShownGrid, AColumnDisplayFormChangesWhatIsShownNotTheText)
+{
+    grid.setText(0, 1, QStringLiteral("9"));
+    grid.setColumnDisplay(1, [](const QString& text) { return text + QStringLiteral(" lbs"); });
+    EXPECT_EQ(grid.text(0, 1), "9");
+    EXPECT_EQ(grid.shownText(0, 1), "9 lbs");
+    EXPECT_EQ(grid.shownText(0, 0), grid.text(0, 0)) << "other columns show their text";
+    // What the delegate draws: the shown form is wider than the text.
+    QStyleOptionViewItem option;
+    option.initFrom(&grid);
+    option.font = grid.font();
+    const int shownWidth = grid.itemDelegate()->sizeHint(option, grid.model()->index(0, 1)).width();
+    grid.setColumnDisplay(1, [](const QString& text) { return text; });
+    const int plainWidth = grid.itemDelegate()->sizeHint(option, grid.model()->index(0, 1)).width();
+    EXPECT_GT(shownWidth, plainWidth);
+}
+
 // ---- Selection --------------------------------------------------------------
 
 TEST_F(ShownGrid, SingleCellSelectionBringsADragBackToOneCell)

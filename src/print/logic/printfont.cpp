@@ -17,6 +17,17 @@ bool StorePrintFont(const PrintFontSlots& where, const TextFont& font)
     return nameStored && sizeStored;
 }
 
+TextFont StoredPrintFont(const PrintFontSlots& where, TextFont font)
+{
+    const TaggedValue name = ReadSlotTagged(where.name);
+    if (const auto* text = std::get_if<QString>(&name); text && !text->isEmpty())
+        font.name = *text;
+    const TaggedValue size = ReadSlotTagged(where.size);
+    if (const auto* points = std::get_if<qint32>(&size); points && *points > 0)
+        font.size = *points;
+    return font;
+}
+
 int AutoSizeFontSize(const TextMeasurer& measurer, const TextFont& font, const QString& testLine, double pageWidth)
 {
     // Sizes stay within what a font dialog offers, so a measure that never

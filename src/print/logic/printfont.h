@@ -17,6 +17,9 @@ struct PrintFontSlots {
 };
 // False when a write failed.
 bool StorePrintFont(const PrintFontSlots& where, const TextFont& font);
+// The name and size kept in the slots, over `font`; a slot never written
+// leaves its part of the font as it was.
+TextFont StoredPrintFont(const PrintFontSlots& where, TextFont font);
 
 // The font size Auto Size finds: the size, stepped by whole points from the
 // font's own, at which `testLine` is as wide as the page as can be without

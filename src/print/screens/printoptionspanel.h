@@ -40,7 +40,8 @@ public:
     // A group of the screen's own options, placed under the panel's.
     void addOptionGroup(QWidget* group);
     // The slots where "&Exit Print Options" stores the font's name and size,
-    // for the screens that keep them. A failed write is told and keeps the
+    // for the screens that keep them (each screen reads them back by its own
+    // rules before opening the panel). A failed write is told and keeps the
     // panel open.
     void setFontSlots(const PrintFontSlots& where) { fontSlots_ = where; }
 

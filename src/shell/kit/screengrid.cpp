@@ -18,7 +18,7 @@ constexpr int kBoldRole = Qt::UserRole + 1;
 
 class BoldDelegate final : public QStyledItemDelegate {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    explicit BoldDelegate(const ScreenGrid* grid) : QStyledItemDelegate(const_cast<ScreenGrid*>(grid)), grid_(grid) {}
 
 protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
@@ -26,7 +26,11 @@ protected:
         QStyledItemDelegate::initStyleOption(option, index);
         if (index.data(kBoldRole).toBool())
             option->font.setBold(true);
+        option->text = grid_->shownText(index.row(), index.column());
     }
+
+private:
+    const ScreenGrid* grid_;
 };
 
 // Every cell of the grid sorts in the grid's order, also one that the user
@@ -192,6 +196,19 @@ bool ScreenGrid::isColumnEditable(int column) const
 void ScreenGrid::setColumnAlignment(int column, Qt::Alignment alignment)
 {
     alignments_.insert(column, alignment);
+}
+
+void ScreenGrid::setColumnDisplay(int column, DisplayForm form)
+{
+    displayForms_.insert(column, std::move(form));
+    viewport()->update();
+}
+
+QString ScreenGrid::shownText(int row, int column) const
+{
+    const QString cell = text(row, column);
+    const auto form = displayForms_.constFind(column);
+    return form == displayForms_.constEnd() ? cell : (*form)(cell);
 }
 
 bool ScreenGrid::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)

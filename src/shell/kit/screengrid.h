@@ -57,6 +57,12 @@ public:
     bool isColumnEditable(int column) const;
     // How the cells of a column set their text from now on.
     void setColumnAlignment(int column, Qt::Alignment alignment);
+    // How a column shows its cells (a number in a pattern such as "###.#");
+    // the cell keeps its text as typed, which is what text() reads and an
+    // edit starts from.
+    using DisplayForm = std::function<QString(const QString& text)>;
+    void setColumnDisplay(int column, DisplayForm form);
+    QString shownText(int row, int column) const;
 
     // ---- Look and behaviour ----
     void setSelectionKind(Selection selection);
@@ -97,6 +103,7 @@ private:
     Selection selection_ = Selection::SingleCell;
     QList<int> editableColumns_;
     QHash<int, Qt::Alignment> alignments_;
+    QHash<int, DisplayForm> displayForms_;
     bool headerSort_ = false;
     SortHook beforeSort_;
     SortHook afterSort_;
