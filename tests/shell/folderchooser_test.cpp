@@ -242,3 +242,40 @@ TEST_F(FolderChooserTest, WithoutFilesTheFileListIsHidden)
     EXPECT_TRUE(folders(*panel)->isVisible());
     EXPECT_TRUE(panel->findChild<QLabel*>("lblPath")->isVisible());
 }
+
+TEST_F(FolderChooserTest, ADriveThatCannotBeReadIsToldAndTheListsGoBackToC)
+{
+    auto panel = open();
+    panel->setFolder(path("Recipes"));
+    panel->setDrives({{QStringLiteral("C:"), home}, {QStringLiteral("/media/gone [GONE]"), path("gone")}});
+    QSignalSpy unavailable(panel.get(), &FolderChooserPanel::driveUnavailable);
+    auto* drives = panel->findChild<QComboBox*>("Drive1");
+    drives->setCurrentIndex(1);
+    emit drives->activated(1);
+    EXPECT_EQ(unavailable.count(), 1);
+    EXPECT_EQ(panel->folder(), home);
+    EXPECT_EQ(drives->currentIndex(), 0);
+    EXPECT_EQ(drives->currentText(), QStringLiteral("C:"));
+}
+
+TEST_F(FolderChooserTest, AReadableDriveIsEnteredWithoutAWord)
+{
+    auto panel = open();
+    panel->setDrives({{QStringLiteral("C:"), home}, {QStringLiteral("Backups"), path("Backups")}});
+    QSignalSpy unavailable(panel.get(), &FolderChooserPanel::driveUnavailable);
+    auto* drives = panel->findChild<QComboBox*>("Drive1");
+    drives->setCurrentIndex(1);
+    emit drives->activated(1);
+    EXPECT_EQ(unavailable.count(), 0);
+    EXPECT_EQ(panel->folder(), path("Backups"));
+}
+
+TEST_F(FolderChooserTest, AFileGivenIsPickedInItsFolderOnceItIsRead)
+{
+    auto panel = open();
+    panel->setPattern(QStringLiteral("*.rc1"));
+    panel->selectFile(path("Recipes/b.rc1"));
+    EXPECT_EQ(panel->folder(), path("Recipes"));
+    ASSERT_TRUE(WaitFor([&] { return !panel->selectedFile().isEmpty(); }));
+    EXPECT_EQ(panel->selectedFile(), path("Recipes/b.rc1"));
+}

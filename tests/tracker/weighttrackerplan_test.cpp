@@ -21,6 +21,7 @@
 #include <QCategoryAxis>
 #include <QChart>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QImage>
@@ -141,7 +142,28 @@ TEST_F(WeightTrackerPlanTest, TheChooserStartsOnTheSlotsFileAndRefusesAFileThatI
     chooser->enterButton()->click();
     form->planPanel()->slot(0).addEdit->click();
     EXPECT_EQ(chooser->chosenFile(), QFileInfo(path).absoluteFilePath());
+    EXPECT_EQ(chooser->folders()->folder(), QFileInfo(path).absolutePath());
+    for (int tries = 0; tries < 300 && chooser->folders()->selectedFile().isEmpty(); ++tries)
+        QTest::qWait(10);
+    EXPECT_EQ(chooser->folders()->selectedFile(), QFileInfo(path).absoluteFilePath()) << "the file is picked in the list";
     chooser->leaveButton()->click();
+}
+
+TEST_F(WeightTrackerPlanTest, ADriveThatFailsInTheChooserIsToldAndGoesBackToC)
+{
+    auto form = openPat();
+    run(*form, "mPlan");
+    form->planPanel()->slot(0).addEdit->click();
+    PictureChooserPanel* chooser = form->pictureChooser();
+    chooser->folders()->setDrives({{QStringLiteral("C:"), QDir::homePath()},
+                                   {QStringLiteral("/media/gone"), folder.filePath(QStringLiteral("gone"))}});
+    dialogs.expectMessage(QStringLiteral("Device Status"), QStringLiteral("Device Unavailable!  "));
+    auto* drives = chooser->folders()->findChild<QComboBox*>(QStringLiteral("Drive1"));
+    drives->setCurrentIndex(1);
+    emit drives->activated(1);
+    EXPECT_TRUE(dialogs.scriptDone());
+    EXPECT_EQ(chooser->folders()->folder(), QDir::cleanPath(QDir::homePath()));
+    EXPECT_FALSE(chooser->isHidden()) << "the chooser stays up";
 }
 
 TEST_F(WeightTrackerPlanTest, DeletingThePictureEmptiesTheSlotAndKeepsTheFile)

@@ -122,7 +122,7 @@ QListView* List(const char* objectName, QAbstractItemModel* model, QWidget* pare
 } // namespace
 
 FolderChooserPanel::FolderChooserPanel(Files files, QWidget* parent)
-    : QWidget(parent), drives_(DriveEntries(QDir::homePath(), QStorageInfo::mountedVolumes()))
+    : QWidget(parent)
 {
     model_ = new QFileSystemModel(this);
     model_->setFilter(QDir::AllDirs | QDir::Files | QDir::NoDot);
@@ -132,8 +132,7 @@ FolderChooserPanel::FolderChooserPanel(Files files, QWidget* parent)
 
     driveList_ = new QComboBox(this);
     driveList_->setObjectName(QStringLiteral("Drive1"));
-    for (const DriveEntry& drive : drives_)
-        driveList_->addItem(drive.caption, drive.rootPath);
+    setDrives(DriveEntries(QDir::homePath(), QStorageInfo::mountedVolumes()));
     folderList_ = List("Dir1", folders_, this);
     folderList_->installEventFilter(this);
     fileList_ = List("File1", files_, this);
@@ -168,7 +167,18 @@ FolderChooserPanel::FolderChooserPanel(Files files, QWidget* parent)
     connect(fileList_, &QListView::activated, this,
             [this](const QModelIndex& index) { emit fileActivated(filePathOf(index)); });
 
+    connect(model_, &QFileSystemModel::directoryLoaded, this, &FolderChooserPanel::selectPendingFile);
+
     setFolder(QDir::homePath());
+}
+
+void FolderChooserPanel::setDrives(const QList<DriveEntry>& drives)
+{
+    drives_ = drives;
+    driveList_->clear();
+    for (const DriveEntry& drive : drives_)
+        driveList_->addItem(drive.caption, drive.rootPath);
+    driveList_->setCurrentIndex(DriveOf(drives_, folder_));
 }
 
 void FolderChooserPanel::setFolder(const QString& path)
@@ -190,6 +200,8 @@ void FolderChooserPanel::setFolder(const QString& path)
     folderList_->setRootIndex(folders_->mapFromSource(shown));
     fileList_->setRootIndex(files_->mapFromSource(shown));
     fileList_->selectionModel()->clear();
+    if (QFileInfo(pendingFile_).absolutePath() != folder_)
+        pendingFile_.clear();
     pathLabel_->setText(QDir::toNativeSeparators(folder_));
     emit folderChanged(folder_);
 }
@@ -213,8 +225,37 @@ QString FolderChooserPanel::selectedFile() const
 
 void FolderChooserPanel::driveChosen(int index)
 {
-    if (index >= 0 && index < int(drives_.size()))
+    if (index < 0 || index >= int(drives_.size()))
+        return;
+    const QFileInfo root(drives_[index].rootPath);
+    if (root.isDir() && root.isReadable() && root.isExecutable()) {
         setFolder(drives_[index].rootPath);
+        return;
+    }
+    // A volume gone or closed to the user: back to "C:".
+    setFolder(QDir::homePath());
+    driveList_->setCurrentIndex(DriveOf(drives_, folder_));
+    emit driveUnavailable();
+}
+
+void FolderChooserPanel::selectFile(const QString& path)
+{
+    const QFileInfo file(path);
+    pendingFile_ = file.absoluteFilePath();
+    setFolder(file.absolutePath());
+    selectPendingFile();
+}
+
+void FolderChooserPanel::selectPendingFile()
+{
+    if (pendingFile_.isEmpty())
+        return;
+    const QModelIndex index = files_->mapFromSource(model_->index(pendingFile_));
+    if (!index.isValid())
+        return;
+    fileList_->setCurrentIndex(index);
+    fileList_->scrollTo(index);
+    pendingFile_.clear();
 }
 
 void FolderChooserPanel::enterFolder(const QModelIndex& index)

@@ -40,6 +40,12 @@ public:
 
     // The file picked in the file list, as a full path; empty when none.
     QString selectedFile() const;
+    // Goes to the file's folder and picks the file in the file list once
+    // the folder has been read.
+    void selectFile(const QString& path);
+
+    // The drives offered, "C:" first (the mounted volumes by default).
+    void setDrives(const QList<DriveEntry>& drives);
 
 signals:
     void folderChanged(const QString& folder);
@@ -47,6 +53,9 @@ signals:
     void fileSelected(const QString& path);
     // A double click or Enter on a file.
     void fileActivated(const QString& path);
+    // A drive picked in the drive list could not be read; the lists are
+    // back on "C:".
+    void driveUnavailable();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -57,6 +66,7 @@ private:
 
     void driveChosen(int index);
     void enterFolder(const QModelIndex& index);
+    void selectPendingFile();
     QString filePathOf(const QModelIndex& fileIndex) const;
 
     QList<DriveEntry> drives_;
@@ -70,4 +80,5 @@ private:
     QString folder_;
     QString driveRoot_;
     QString pattern_;
+    QString pendingFile_;  // picked once its folder has been read
 };

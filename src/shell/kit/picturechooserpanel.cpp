@@ -43,6 +43,7 @@ PictureChooserPanel::PictureChooserPanel(QWidget* parent)
     leave_ = addButton(QStringLiteral("cmdExitPicture"), QStringLiteral("E&xit Without Entering Picture"));
     delete_ = addButton(QStringLiteral("cmdDeletePicture"), QStringLiteral("Exit an &Delete Current Picture"));
     connect(folders_, &FolderChooserPanel::fileSelected, this, &PictureChooserPanel::choose);
+    connect(folders_, &FolderChooserPanel::driveUnavailable, this, &PictureChooserPanel::driveUnavailable);
     connect(enter_, &QPushButton::clicked, this, [this] {
         if (!chosen_.isEmpty())
             emit pictureEntered(chosen_, QFileInfo(chosen_).absolutePath());
@@ -60,7 +61,7 @@ void PictureChooserPanel::openFor(const QString& heading, const QString& slotFil
     enter_->setEnabled(false);
     const QFileInfo slot(slotFile.trimmed());
     if (!slotFile.trimmed().isEmpty() && slot.exists()) {
-        folders_->setFolder(slot.absolutePath());
+        folders_->selectFile(slot.absoluteFilePath());
         choose(slot.absoluteFilePath());
     } else {
         folders_->setFolder(folder);

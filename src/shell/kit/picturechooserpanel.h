@@ -5,7 +5,12 @@
 // enter the picture, leave without a change, or leave and empty the slot.
 // A file that does not load as a picture says so in place of the preview
 // and cannot be entered.
+#include "common/dialogs.h"
 #include "shell/kit/overlaypanel.h"
+
+// What a screen says when a drive picked in the chooser cannot be read.
+inline const Message kDeviceUnavailable{QStringLiteral("Device Status"), QStringLiteral("Device Unavailable!  "),
+                                        Buttons::Ok, Icon::Exclamation, 1};
 
 class FolderChooserPanel;
 class QLabel;
@@ -40,6 +45,9 @@ signals:
     void pictureDeleted();
     // "E&xit Without Entering Picture", or Escape.
     void left();
+    // A drive picked could not be read (the screen says kDeviceUnavailable);
+    // the lists are back on "C:".
+    void driveUnavailable();
 
 private:
     FolderChooserPanel* folders_ = nullptr;

@@ -113,6 +113,7 @@ WeightTracker::WeightTracker(Dialogs& dialogs, QWidget* parent)
     connect(chooser_, &PictureChooserPanel::pictureEntered, this, &WeightTracker::pictureEntered);
     connect(chooser_, &PictureChooserPanel::pictureDeleted, this, &WeightTracker::pictureDeleted);
     connect(chooser_, &PictureChooserPanel::left, this, &WeightTracker::closeChooser);
+    connect(chooser_, &PictureChooserPanel::driveUnavailable, this, [&dialogs] { dialogs.ask(kDeviceUnavailable); });
     enlarged_ = new EnlargedPicturePanel(central);
     connect(enlarged_, &OverlayPanel::closeRequested, this, [this] { closePanel(enlarged_); });
     buildPlan();
