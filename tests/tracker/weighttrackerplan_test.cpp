@@ -149,6 +149,27 @@ TEST_F(WeightTrackerPlanTest, TheChooserStartsOnTheSlotsFileAndRefusesAFileThatI
     chooser->leaveButton()->click();
 }
 
+TEST_F(WeightTrackerPlanTest, AClickOnTheChoosersPreviewShowsThePictureEnlarged)
+{
+    const QString path = picture(QStringLiteral("before.png"));
+    auto form = openPat();
+    form->show();
+    run(*form, "mPlan");
+    form->planPanel()->slot(0).addEdit->click();
+    PictureChooserPanel* chooser = form->pictureChooser();
+    folder.writeBytes(QStringLiteral("notes.jpg"), "not a picture");
+    chooser->choose(folder.filePath(QStringLiteral("notes.jpg")));
+    QTest::mouseClick(chooser->preview(), Qt::LeftButton);
+    EXPECT_TRUE(form->enlargedPicture()->isHidden()) << "no picture, nothing to enlarge";
+    chooser->choose(path);
+    QTest::mouseClick(chooser->preview(), Qt::LeftButton);
+    ASSERT_FALSE(form->enlargedPicture()->isHidden());
+    EXPECT_EQ(form->enlargedPicture()->captionLabel()->text(), "Picture Preview");
+    form->pressEscape();
+    EXPECT_TRUE(form->enlargedPicture()->isHidden());
+    EXPECT_FALSE(chooser->isHidden()) << "Escape closes the enlarged picture first";
+}
+
 TEST_F(WeightTrackerPlanTest, ADriveThatFailsInTheChooserIsToldAndGoesBackToC)
 {
     auto form = openPat();

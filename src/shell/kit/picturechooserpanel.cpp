@@ -2,6 +2,7 @@
 
 #include "shell/kit/folderchooser.h"
 
+#include <QEvent>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QImageReader>
@@ -30,6 +31,7 @@ PictureChooserPanel::PictureChooserPanel(QWidget* parent)
     preview_->setAlignment(Qt::AlignCenter);
     preview_->setWordWrap(true);
     preview_->setFrameShape(QFrame::StyledPanel);
+    preview_->installEventFilter(this);
     auto* previewColumn = new QVBoxLayout;
     previewColumn->addWidget(previewCaption_);
     previewColumn->addWidget(preview_);
@@ -85,4 +87,11 @@ void PictureChooserPanel::choose(const QString& path)
     preview_->setPixmap(QPixmap::fromImage(
         image.scaled(preview_->size(), Qt::KeepAspectRatio, Qt::SmoothTransformation)));
     enter_->setEnabled(true);
+}
+
+bool PictureChooserPanel::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == preview_ && event->type() == QEvent::MouseButtonRelease && !chosen_.isEmpty())
+        emit previewClicked(chosen_);
+    return OverlayPanel::eventFilter(watched, event);
 }

@@ -45,9 +45,15 @@ signals:
     void pictureDeleted();
     // "E&xit Without Entering Picture", or Escape.
     void left();
+    // A click on the preview of a file that loads: the screen shows it at
+    // full size.
+    void previewClicked(const QString& path);
     // A drive picked could not be read (the screen says kDeviceUnavailable);
     // the lists are back on "C:".
     void driveUnavailable();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     FolderChooserPanel* folders_ = nullptr;

@@ -116,6 +116,9 @@ WeightTracker::WeightTracker(Dialogs& dialogs, QWidget* parent)
     connect(chooser_, &PictureChooserPanel::driveUnavailable, this, [&dialogs] { dialogs.ask(kDeviceUnavailable); });
     enlarged_ = new EnlargedPicturePanel(central);
     connect(enlarged_, &OverlayPanel::closeRequested, this, [this] { closePanel(enlarged_); });
+    // The chooser's preview, clicked, at full size over the chooser.
+    connect(chooser_, &PictureChooserPanel::previewClicked, this,
+            [this](const QString& path) { enlarged_->showPicture(QStringLiteral("Picture Preview"), path, {}); });
     buildPlan();
     buildPrintPanel(central);
     buildFieldRules();
