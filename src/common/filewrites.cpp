@@ -2,9 +2,11 @@
 
 #include "common/programfolder.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <cstdio>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -33,6 +35,17 @@ void SyncFolderOf(const QString& path)
     ::close(fd);
 }
 
+// The bytes of a file written in place reach the disk only when asked.
+bool SyncFile(const QString& path)
+{
+    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY);
+    if (fd < 0)
+        return false;
+    const bool synced = ::fsync(fd) == 0;
+    ::close(fd);
+    return synced;
+}
+
 } // namespace
 
 bool WriteWholeFile(const QString& name, QByteArrayView bytes)
@@ -59,6 +72,17 @@ bool WriteWholeFileAt(const QString& path, QByteArrayView bytes)
         return false;
     SyncFolderOf(path);
     FileWriteSeam::held(path);
+    return true;
+}
+
+bool ReplaceFile(const QString& from, const QString& to)
+{
+    if (!FileWriteSeam::allows(to) || !SyncFile(from))
+        return false;
+    if (::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0)
+        return false;
+    SyncFolderOf(to);
+    FileWriteSeam::held(to);
     return true;
 }
 

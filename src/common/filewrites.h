@@ -33,6 +33,12 @@ bool WriteWholeFile(const QString& name, QByteArrayView bytes);
 // The same for a path the user chose, used exactly as given.
 bool WriteWholeFileAt(const QString& path, QByteArrayView bytes);
 
+// The file at `from` takes the place of the file at `to` in one rename (both
+// paths used exactly as given), its bytes on the disk first: after a crash
+// the name `to` holds either the old file or the new one. False, and both
+// files as they were, when it failed.
+bool ReplaceFile(const QString& from, const QString& to);
+
 namespace FileWriteSeam {
 // Asked before each write with the file's name; false makes the write fail
 // as a full disk would, before any byte is written.

@@ -77,6 +77,9 @@ TEST(RecipeModes, CommandStatesByState)
         {"search open", {.mode = View, .panel = Search, .recipeShown = true}, {"exit"}},
         {"print open", {.mode = View, .panel = Print, .recipeShown = true}, {"exit"}},
         {"titles open", {.mode = Idle, .panel = Titles}, {"exit"}},
+        {"older file being converted", {.mode = Idle, .panel = Conversion}, {}},
+        {"older file converted from under the calculator",
+         {.mode = View, .panel = Conversion, .recipeShown = true, .amountsRecalculated = true}, {}},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);

@@ -60,6 +60,12 @@ RecipeCommandStates CommandStatesFor(const RecipeScreenState& state)
         // which is left by its own buttons.
         on.exit = state.panel != RecipePanel::Rename;
         break;
+    case RecipePanel::Conversion:
+        // Nothing at all while an older recipe file is converted: the
+        // conversion lets the window paint as it goes, and a second command
+        // would start a conversion inside the first.
+        on = RecipeCommandStates{};
+        break;
     }
     return on;
 }

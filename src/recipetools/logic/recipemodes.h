@@ -9,8 +9,9 @@ enum class RecipeMode {
     Modify,  // the shown recipe being edited
 };
 
-// The panel open over the screen; one at a time.
-enum class RecipePanel { None, Rename, Calculator, Search, Print, Titles };
+// The panel open over the screen; one at a time. Conversion is the progress
+// panel of an older recipe file being converted.
+enum class RecipePanel { None, Rename, Calculator, Search, Print, Titles, Conversion };
 
 struct RecipeScreenState {
     RecipeMode mode = RecipeMode::Idle;

@@ -14,6 +14,13 @@ Message NoSlotMessage()
             Buttons::Ok, Icon::Exclamation, 1};
 }
 
+Message OldFileNotConvertedMessage()
+{
+    return {QStringLiteral("Recipe File"),
+            QStringLiteral("The older recipe file could not be converted. Your recipes have not been changed."),
+            Buttons::Ok, Icon::Exclamation, 1};
+}
+
 } // namespace
 
 void RecipeScreenModel::loadCookbook()
@@ -41,6 +48,21 @@ std::optional<Message> RecipeScreenModel::saveTitles(const QStringList& titles)
     loadCookbook();
     if (!written.held())
         return WriteFailedMessage(written.failedFile);
+    return std::nullopt;
+}
+
+bool RecipeScreenModel::conversionNeeded()
+{
+    if (cookbook_ >= 2 || RecipeFileIsCurrent())
+        conversionPending_ = 0;
+    return conversionPending();
+}
+
+std::optional<Message> RecipeScreenModel::convertOldDatabase(const OldConversionSteps& steps)
+{
+    if (!ConvertOldRecipeFile(steps).held())
+        return OldFileNotConvertedMessage();
+    conversionPending_ = 0;
     return std::nullopt;
 }
 

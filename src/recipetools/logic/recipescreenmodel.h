@@ -7,6 +7,7 @@
 // renaming happen here and say what they did.
 #include "common/dialogs.h"
 #include "cookbook/logic/cookbooknames.h"
+#include "cookbook/logic/olddatabase.h"
 #include "recipetools/logic/recipelifecycle.h"
 #include "recipetools/logic/recipemodes.h"
 
@@ -54,6 +55,20 @@ public:
     std::optional<Message> selectCookbook(int cookbook);
     // The titles written and read again; the message when a slot did not hold.
     std::optional<Message> saveTitles(const QStringList& titles);
+
+    // ---- An older recipe file -------------------------------------------
+    // Looks for an older recipe file in the current cookbook; the flag is
+    // set when one waits to be converted. Switching cookbooks keeps it.
+    void checkOldDatabase() { conversionPending_ = CheckOldDatabase(cookbook_); }
+    bool conversionPending() const { return conversionPending_ == kConversionPending; }
+    // Whether the pending conversion is to run now. Not when another
+    // cookbook is current, nor over a recipe file of the current format:
+    // then the flag is cleared and nothing is converted.
+    bool conversionNeeded();
+    // Converts the older recipe file, telling `steps` as it goes; the flag
+    // is cleared when it held. When a write failed, the message: the older
+    // file is as it was and the flag stays, so the next command tries again.
+    std::optional<Message> convertOldDatabase(const OldConversionSteps& steps);
 
     // ---- The type and its lists -----------------------------------------
     // The text of the type list; a text that names no type chooses none.
@@ -120,4 +135,5 @@ private:
     AmountList amountWorkList_;        // AmountWorkList
     QString picturePath_;              // PicturePath
     RecipeScreenState state_;
+    int conversionPending_ = 0;        // ConversionPending
 };

@@ -1,6 +1,7 @@
 #include "recipetools/screens/form5.h"
 
 #include "recipetools/screens/calculatorpanel.h"
+#include "recipetools/screens/conversionpanel.h"
 #include "recipetools/screens/cookbooktitlespanel.h"
 #include "recipetools/screens/recipefieldspanel.h"
 #include "recipetools/screens/renamepanel.h"
@@ -50,10 +51,11 @@ Form5::Form5(Dialogs& dialogs, QWidget* parent)
     buildSearchPanels(central);
     titlesPanel_ = new CookbookTitlesPanel(central);
     buildPrintPanel(central);
+    conversionPanel_ = new ConversionPanel(central);
     declareEscapeOrder();
 
     addColouredPanels(QList<QWidget*>{titleStrip_, commands} + fields_->colouredPanels()
-                      + QList<QWidget*>{renamePanel_, calculator_, titlesPanel_} + printPanels());
+                      + QList<QWidget*>{renamePanel_, calculator_, titlesPanel_, conversionPanel_} + printPanels());
 
     connectFields();
     // Whatever sets the type list's text chooses the type.
@@ -69,6 +71,7 @@ Form5::Form5(Dialogs& dialogs, QWidget* parent)
     connect(titlesPanel_, &CookbookTitlesPanel::saveRequested, this, &Form5::saveTitles);
 
     loadCookbook();
+    model_.checkOldDatabase();
     setMode(RecipeMode::Idle);
     screenStatusBar()->setActivity(windowTitle());
     focusCommandButton(Form5Command::Create);

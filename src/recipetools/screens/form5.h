@@ -16,6 +16,7 @@
 class AdditionalRecipesPanel;
 class CalculatorPanel;
 class Clock;
+class ConversionPanel;
 class CookbookTitlesPanel;
 class IngredientSearchPanel;
 class NameSearchPanel;
@@ -58,6 +59,8 @@ public:
     RecipeFieldsPanel* fieldsPanel() const { return fields_; }
     PrintOptionsPanel* printPanel() const { return printPanel_; }
     AdditionalRecipesPanel* additionalRecipesPanel() const { return additionalRecipes_; }
+    ConversionPanel* conversionPanel() const { return conversionPanel_; }
+    bool conversionPending() const { return model_.conversionPending(); }
     // Where the printout's date comes from; the system clock unless a test says.
     void setClock(const Clock& clock) { clock_ = &clock; }
 
@@ -79,6 +82,7 @@ private:
     void openTitles();
     void saveTitles(const QStringList& titles);
     void closeTitles();
+    bool convertPendingOldDatabase(Form5Command trigger);
 
     // The life of a recipe (form5recipe.cpp).
     bool saveQuestionAllowsAction(SaveRoad road = SaveRoad::Question);
@@ -150,6 +154,7 @@ private:
     NameSearchPanel* nameSearch_ = nullptr;
     IngredientSearchPanel* ingredientSearch_ = nullptr;
     CookbookTitlesPanel* titlesPanel_ = nullptr;
+    ConversionPanel* conversionPanel_ = nullptr;
     PrintOptionsPanel* printPanel_ = nullptr;
     RecipePrintOptions* printOptions_ = nullptr;
     AdditionalRecipesPanel* additionalRecipes_ = nullptr;

@@ -1,9 +1,11 @@
-// Form5's cookbook: which of the eight is current, switching, and titles.
+// Form5's cookbook: which of the eight is current, switching, titles, and
+// converting an older recipe file of cookbook 1.
 #include "recipetools/screens/form5.h"
 
 #include "common/programfolder.h"
 #include "cookbook/logic/cookbookselection.h"
 #include "recipetools/screens/calculatorpanel.h"
+#include "recipetools/screens/conversionpanel.h"
 #include "recipetools/screens/cookbooktitlespanel.h"
 #include "recipetools/screens/recipefieldspanel.h"
 #include "shell/kit/screenstatusbar.h"
@@ -83,4 +85,26 @@ void Form5::closeTitles()
     setPanel(RecipePanel::None);
     focusCommandButton(Form5Command::Create);
     titlesPanel_->hide();
+}
+
+// Before "&Create", "&View", "S&earch" or a choice in the pick list does
+// anything, an older recipe file found when the screen opened is converted,
+// under a panel that holds every command and the close box. False when the
+// conversion failed: the user is told, and the command goes no further.
+bool Form5::convertPendingOldDatabase(Form5Command trigger)
+{
+    if (!model_.conversionPending() || !model_.conversionNeeded())
+        return true;
+    const RecipePanel under = model_.state().panel;
+    conversionPanel_->start();
+    setPanel(RecipePanel::Conversion);
+    const std::optional<Message> failed = model_.convertOldDatabase(conversionPanel_->steps());
+    setPanel(under);
+    focusCommandButton(trigger);
+    conversionPanel_->hide();
+    if (failed) {
+        tell(*failed);
+        return false;
+    }
+    return true;
 }

@@ -153,6 +153,8 @@ bool Form5::beginCreateOrView()
 
 void Form5::createRecipe()
 {
+    if (!convertPendingOldDatabase(Form5Command::Create))
+        return;
     if (!beginCreateOrView())
         return;
     model_.setPicturePath(QString());
@@ -164,6 +166,8 @@ void Form5::createRecipe()
 
 void Form5::viewRecipes()
 {
+    if (!convertPendingOldDatabase(Form5Command::View))
+        return;
     if (!beginCreateOrView())
         return;
     setMode(RecipeMode::View);
@@ -174,6 +178,8 @@ void Form5::viewRecipes()
 
 void Form5::loadChosenRecipe(int index)
 {
+    if (!convertPendingOldDatabase(Form5Command::View))
+        return;
     if (!saveQuestionAllowsAction())
         return;
     loadRecipe(RecordNumberOf(model_.pickEntries().value(index)), index);
@@ -285,9 +291,12 @@ void Form5::clearScreen()
 }
 
 // Leaving the screen with changes asks the short save question; a refused
-// save keeps the screen open.
+// save keeps the screen open. Nothing closes it while an older recipe file
+// is being converted.
 bool Form5::readyToClose()
 {
+    if (model_.state().panel == RecipePanel::Conversion)
+        return false;
     if (!model_.hasUnsavedWork())
         return true;
     return dialogs().ask(kExitSaveQuestion) != Answer::Yes || save(SaveRoad::Question);

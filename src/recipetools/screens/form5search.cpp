@@ -69,6 +69,8 @@ void Form5::searchIngredients()
 
 void Form5::openSearch()
 {
+    if (!convertPendingOldDatabase(Form5Command::Search))
+        return;
     closeOpenPanel();
     setPanel(RecipePanel::Search);
     searchOptions_->open(searchOptions_->byRecipeButton());

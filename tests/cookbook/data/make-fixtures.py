@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Writes the stored cookbook that the cookbook tests read: cookbook 1 of a
-small data folder, three files.
+small data folder, three files, and a recipe file of the earlier format.
 
   Recipe2.db1   recipe records, 2045 bytes a slot, five slots:
                   1  used   Cranberry Punch
@@ -14,6 +14,14 @@ small data folder, three files.
   Appenfil.db1  the names of the type "Appetizers and beverages", 60 bytes a
                 slot: five entries, one of them numbered 0 and one pointing
                 at the never-written slot 4, then two cleared slots
+
+  old_recipe2.db1  recipe records of the earlier versions, 1545 bytes a slot,
+                five slots: recipes in slots 2 and 5, each with 14 distinct
+                rows and 800 characters of directions, marked "Full "; slots
+                1 and 4 deleted (blank, "****"), slot 3 never written (zeros).
+                Row r of slot s: amount "s.rr", unit "unit s-rr", ingredient
+                "ingredient rr of recipe s"; the directions repeat
+                "Stir the crème of recipe s. " and are cut at 800.
 
 Every byte is put at its offset from the record layouts written out below;
 text is Windows-1252, numbers are little-endian. The bytes a program writes
@@ -43,6 +51,19 @@ YIELD_AT, YIELD_WIDTH = 2004, 5
 TIME_AT, TIME_WIDTH = 2009, 20
 YIELD_TYPE_AT, YIELD_TYPE_WIDTH = 2029, 11
 MARK_AT, MARK_WIDTH = 2040, 5
+
+# OldRecipeRecord: 1545 bytes, 14 rows, 800 characters of directions.
+OLD_SLOT = 1545
+OLD_ROWS = 14
+OLD_AMOUNT_AT = 0                  # 14 x 5
+OLD_DIRECTIONS_AT, OLD_DIRECTIONS_WIDTH = 70, 800
+OLD_OVEN_AT = 870
+OLD_UNIT_AT = 874                  # 14 x 10
+OLD_INGREDIENT_AT = 1014           # 14 x 35
+OLD_YIELD_AT = 1504
+OLD_TIME_AT = 1509
+OLD_YIELD_TYPE_AT = 1529
+OLD_MARK_AT = 1540
 
 # RecipeExtraRecord: 250 bytes; kind 8 (text) at 0, length at 2, path at 4.
 EXTRA_SLOT = 250
@@ -75,6 +96,30 @@ def recipe_slot(rows, directions, oven, time, yield_amount, yield_type, mark="Fu
     put_text(record, TIME_AT, TIME_WIDTH, time)
     put_text(record, YIELD_TYPE_AT, YIELD_TYPE_WIDTH, yield_type)
     put_text(record, MARK_AT, MARK_WIDTH, mark)
+    return bytes(record)
+
+
+def old_recipe_slot(slot, mark="Full "):
+    """A used old recipe whose texts are made from its slot number."""
+    record = bytearray(b" " * OLD_SLOT)
+    for row in range(1, OLD_ROWS + 1):
+        put_text(record, OLD_AMOUNT_AT + (row - 1) * AMOUNT_WIDTH, AMOUNT_WIDTH, f"{slot}.{row:02d}")
+        put_text(record, OLD_UNIT_AT + (row - 1) * UNIT_WIDTH, UNIT_WIDTH, f"unit {slot}-{row:02d}")
+        put_text(record, OLD_INGREDIENT_AT + (row - 1) * INGREDIENT_WIDTH, INGREDIENT_WIDTH,
+                 f"ingredient {row:02d} of recipe {slot}")
+    directions = (f"Stir the cr\u00e8me of recipe {slot}. " * 40)[:OLD_DIRECTIONS_WIDTH]
+    put_text(record, OLD_DIRECTIONS_AT, OLD_DIRECTIONS_WIDTH, directions)
+    put_text(record, OLD_OVEN_AT, OVEN_WIDTH, "350")
+    put_text(record, OLD_YIELD_AT, YIELD_WIDTH, str(slot))
+    put_text(record, OLD_TIME_AT, TIME_WIDTH, f"{slot * 10} minutes")
+    put_text(record, OLD_YIELD_TYPE_AT, YIELD_TYPE_WIDTH, "Serving(s)")
+    put_text(record, OLD_MARK_AT, MARK_WIDTH, mark)
+    return bytes(record)
+
+
+def old_deleted_slot():
+    record = bytearray(b" " * OLD_SLOT)
+    put_text(record, OLD_MARK_AT, MARK_WIDTH, "****")
     return bytes(record)
 
 
@@ -131,6 +176,13 @@ EXTRAS = {
     5: extra_slot(""),
 }
 
+OLD_RECIPES = {
+    1: old_deleted_slot(),
+    2: old_recipe_slot(2),
+    4: old_deleted_slot(),
+    5: old_recipe_slot(5),
+}
+
 NAMES = {
     1: name_slot(entry("Cranberry Punch", 1)),
     2: name_slot(entry("Hot Crab Dip", 3)),
@@ -147,6 +199,7 @@ def main():
     (HERE / "Recipe2.db1").write_bytes(slot_file(RECIPE_SLOT, RECIPES))
     (HERE / "Recipe4.db1").write_bytes(slot_file(EXTRA_SLOT, EXTRAS))
     (HERE / "Appenfil.db1").write_bytes(slot_file(NAME_SLOT, NAMES))
+    (HERE / "old_recipe2.db1").write_bytes(slot_file(OLD_SLOT, OLD_RECIPES))
 
 
 if __name__ == "__main__":
