@@ -1,6 +1,8 @@
 // Every message of the backup screen, word for word, with its buttons and
 // default; the run tests script the prompts through these builders.
 #include "backup/logic/backupmessages.h"
+#include "backup/logic/backupsets.h"
+#include "backup/logic/backuptexts.h"
 
 #include <gtest/gtest.h>
 
@@ -77,6 +79,37 @@ TEST(BackupMessages, StatusTexts)
 {
     EXPECT_EQ(BackupStatus::MakingRecipeDisk(2), "Making Recipe Backup Disk #2");
     EXPECT_EQ(BackupStatus::MakingMenuPlanDisk(1), "Making Menu Plan Backup Disk #1");
+}
+
+TEST(BackupScreenTexts, BackingUpRecipes)
+{
+    const BackupScreenTexts texts = BackupScreenTextsFor(*BackupSetFor(0, {4, 0}));
+    EXPECT_EQ(texts.title, "Backup Recipes from Cookbook # 4");
+    EXPECT_EQ(texts.text, "This utility allows you to make a backup of the Recipes from Cookbook # 4 contained within "
+                          "this program.  To make the backup , first create a folder on your hard drive or flash card "
+                          "etc., then select Drive or location from the Drives and or Folders lists below, then Click "
+                          "the &Make Backup Button and follow directions as they appear.");
+    EXPECT_EQ(texts.caution, "");
+    EXPECT_EQ(texts.runCaption, "&Make Backup");
+}
+
+TEST(BackupScreenTexts, RestoringAMenuPlan)
+{
+    const BackupScreenTexts texts = BackupScreenTextsFor(*BackupSetFor(35, {1, 2026}));
+    EXPECT_EQ(texts.title, "Restore  Menu Planner File from Backup Media");
+    EXPECT_EQ(texts.caution,
+              "CAUTION: RESTORE FUNCTION WILL FIRST ERASE ALL EXISTING  Menu Planner File IN THE PROGRAM AND THEN "
+              "RESTORE FILES.");
+    EXPECT_EQ(texts.text, "To restore, first place backup disk in Drive a: or select Folder/files location, then "
+                          "select Drive and or folder from the Drive/Folders lists below, then Click &Restore  Menu "
+                          "Planner File Button and follow directions as they appear.");
+    EXPECT_EQ(texts.runCaption, "&Restore  Menu Planner File");
+}
+
+TEST(BackupScreenTexts, TheTargetPathEndsInASeparator)
+{
+    EXPECT_EQ(TargetPath("/media/usb"), "/media/usb/");
+    EXPECT_EQ(TargetPath("/"), "/");
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // Backup and restore of the sets copied file by file.
 #include "backup/logic/backupmessages.h"
 #include "backup_files.h"
+#include "backup/logic/backuptexts.h"
 #include "backup_fixture.h"
 #include "common/quotedlinefile.h"
 #include "test_bytes.h"
@@ -20,7 +21,7 @@ protected:
     }
     void expectBackupQuestion(const QString& word, const QString& folder, Answer answer = Answer::Yes)
     {
-        dialogs.expectMessage("Delete Files", DeleteBeforeBackupQuestion(word, folder).text, answer);
+        dialogs.expectMessage("Delete Files", DeleteBeforeBackupQuestion(word, TargetPath(folder)).text, answer);
     }
 };
 

@@ -2,6 +2,7 @@
 #include "backup/logic/backupmessages.h"
 #include "backup/logic/diskinfo.h"
 #include "backup_files.h"
+#include "backup/logic/backuptexts.h"
 #include "backup_fixture.h"
 #include "cookbook/logic/cookbooknames.h"
 #include "planner/logic/menuplanfile.h"
@@ -45,7 +46,7 @@ protected:
     }
     void expectRecipeBackup(const QString& folder)
     {
-        dialogs.expectMessage("Delete Files", DeleteBeforeBackupQuestion("Recipe", folder).text, Answer::Yes);
+        dialogs.expectMessage("Delete Files", DeleteBeforeBackupQuestion("Recipe", TargetPath(folder)).text, Answer::Yes);
     }
     void expectDiskChange(int disk, const QString& folder)
     {
@@ -236,7 +237,7 @@ TEST_F(SpannedSets, AMenuPlanRoundTripsAcrossTwoDisks)
     const QString yearFile = MenuPlanFileName(2026);
     program.writeBytes(yearFile, PatternRecords(9, 700));
     const QString one = medium("one"), two = medium("two");
-    dialogs.expectMessage("Delete Files", DeleteBeforeBackupQuestion("", one).text, Answer::Yes);
+    dialogs.expectMessage("Delete Files", DeleteBeforeBackupQuestion("", TargetPath(one)).text, Answer::Yes);
     dialogs.expectMessage("Backup Disk", SpanDiskFullMessage(2).text);
     dialogs.expectFolder(two);
     ASSERT_EQ(run(34, one, {1, 2026}, Limited(kInfoBytes + 5 * 700)), RunEnd::Completed);
@@ -259,7 +260,7 @@ TEST_F(SpannedSets, AShortLastMenuRecordCounts)
 {
     program.writeBytes(MenuPlanFileName(2025), PatternRecords(2, 700) + "short");
     const QString disk = medium("disk");
-    dialogs.expectMessage("Delete Files", DeleteBeforeBackupQuestion("", disk).text, Answer::Yes);
+    dialogs.expectMessage("Delete Files", DeleteBeforeBackupQuestion("", TargetPath(disk)).text, Answer::Yes);
     ASSERT_EQ(run(34, disk, {1, 2025}), RunEnd::Completed);
     EXPECT_EQ(ParseDiskInfo(mediumBytes(disk, "Disk2025.Mbk")).total, 3);
     EXPECT_EQ(mediumBytes(disk, " 2025.Mb1"), PatternRecords(2, 700) + "short" + QByteArray(695, '\0'));

@@ -2,6 +2,7 @@
 
 #include "backup/logic/backupmessages.h"
 #include "backup/logic/backupsteps.h"
+#include "backup/logic/backuptexts.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -38,7 +39,7 @@ RunEnd RunBackup(const BackupSet& set, BackupContext& context)
         context.dialogs.ask(ProgramFolderRefusedMessage());
         return RunEnd::NotStarted;
     }
-    if (context.dialogs.ask(DeleteBeforeBackupQuestion(set.backupWord, context.folder)) != Answer::Yes)
+    if (context.dialogs.ask(DeleteBeforeBackupQuestion(set.backupWord, TargetPath(context.folder))) != Answer::Yes)
         return RunEnd::NotStarted;
     context.progress.setStatus(BackupStatus::DeletingOldFiles);
     const RunEnd end = IsFileCopySet(set.kind) ? BackupFileCopySet(set, context) : BackupSpannedSet(set, context);

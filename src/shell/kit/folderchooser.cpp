@@ -213,8 +213,21 @@ QString FolderChooserPanel::selectedFile() const
 
 void FolderChooserPanel::driveChosen(int index)
 {
-    if (index >= 0 && index < int(drives_.size()))
+    if (index < 0 || index >= int(drives_.size()))
+        return;
+    if (driveReadable(drives_[index].rootPath)) {
         setFolder(drives_[index].rootPath);
+        return;
+    }
+    setFolder(QDir::homePath());
+    driveList_->setCurrentIndex(DriveOf(drives_, folder_));
+    emit driveUnavailable();
+}
+
+bool FolderChooserPanel::driveReadable(const QString& rootPath) const
+{
+    const QFileInfo root(rootPath);
+    return root.isDir() && root.isReadable() && QDir(rootPath).exists();
 }
 
 void FolderChooserPanel::enterFolder(const QModelIndex& index)

@@ -47,6 +47,9 @@ signals:
     void fileSelected(const QString& path);
     // A double click or Enter on a file.
     void fileActivated(const QString& path);
+    // A drive was picked whose root cannot be read (a card reader without a
+    // card, a share gone away); the lists went back to "C:".
+    void driveUnavailable();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -56,6 +59,8 @@ private:
     class FileEntries;
 
     void driveChosen(int index);
+    // Whether a drive's root can be listed.
+    bool driveReadable(const QString& rootPath) const;
     void enterFolder(const QModelIndex& index);
     QString filePathOf(const QModelIndex& fileIndex) const;
 
