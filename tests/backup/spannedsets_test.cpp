@@ -171,6 +171,27 @@ TEST_F(SpannedSets, IfTheDiskFillsExactlyAtTheLastRecordTheNextDiskHoldsACountOf
     EXPECT_EQ(mediumBytes(two, "Recipe2.bk1"), PatternRecord(11, kRecipe));
 }
 
+TEST_F(SpannedSets, ADiskOutOfOrderInRestoreIsRefusedWithTheSamePrompt)
+{
+    ASSERT_TRUE(layout::WriteBackupCookbook(program.path(), 1, 6, 6));
+    const QString one = medium("one"), two = medium("two"), three = medium("three");
+    expectRecipeBackup(one);
+    expectDiskChange(2, two);
+    expectDiskChange(3, three);
+    ASSERT_EQ(run(0, one, {}, Limited(firstDiskFor(2))), RunEnd::Completed);
+    ASSERT_EQ(ParseDiskInfo(mediumBytes(three, "DiskInfo.bk1")).disk, 3);
+
+    expectRecipeRestore();
+    expectNextRestoreDisk(2, three);  // disk 3 before disk 2
+    expectNextRestoreDisk(2, one);    // disk 1 again
+    dialogs.expectMessage("Restore Function", RestoreNextDiskMessage(2).text);
+    dialogs.expectFolder(std::nullopt);
+    EXPECT_EQ(run(1, one), RunEnd::Stopped);
+    // Only disk 1's records arrived.
+    EXPECT_EQ(program.bytesOf("Recipe2.db1"), PatternRecords(2, kRecipe));
+    EXPECT_TRUE(dialogs.scriptDone());
+}
+
 TEST_F(SpannedSets, CancelAtTheNextDiskTerminatesTheBackup)
 {
     ASSERT_TRUE(layout::WriteBackupCookbook(program.path(), 1, 11, 11));

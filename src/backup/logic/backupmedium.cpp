@@ -34,10 +34,20 @@ BackupMedium::BackupMedium(QString folder) : folder_(std::move(folder)) {}
 
 BackupMedium::~BackupMedium() = default;
 
+std::map<QString, QString>& BackupMedium::names() const
+{
+    if (!names_) {
+        names_.emplace();
+        for (const QString& entry : QDir(folder_).entryList(QDir::Files | QDir::Hidden))
+            names_->emplace(entry.toLower(), entry);
+    }
+    return *names_;
+}
+
 QString BackupMedium::pathOf(const QString& name) const
 {
-    const QString found = FindInFolder(folder_, name);
-    return found.isEmpty() ? QDir(folder_).filePath(name) : found;
+    const auto found = names().find(name.toLower());
+    return QDir(folder_).filePath(found == names().end() ? name : found->second);
 }
 
 QFile* BackupMedium::openFile(const QString& name)
@@ -50,6 +60,7 @@ QFile* BackupMedium::openFile(const QString& name)
     // than a later flush.
     if (!file->open(QIODevice::ReadWrite | QIODevice::Unbuffered))
         return nullptr;
+    names().emplace(key, QFileInfo(file->fileName()).fileName());
     return open_.emplace(key, std::move(file)).first->second.get();
 }
 
@@ -57,8 +68,9 @@ qint64 BackupMedium::sizeOf(const QString& name)
 {
     if (auto it = open_.find(name.toLower()); it != open_.end())
         return it->second->size();
-    const QString path = FindInFolder(folder_, name);
-    return path.isEmpty() ? 0 : QFileInfo(path).size();
+    if (!names().contains(name.toLower()))
+        return 0;
+    return QFileInfo(pathOf(name)).size();
 }
 
 bool BackupMedium::writeAt(const QString& name, qint64 offset, QByteArrayView bytes)
@@ -83,13 +95,23 @@ bool BackupMedium::append(const QString& name, QByteArrayView bytes)
     return writeAt(name, sizeOf(name), bytes);
 }
 
+void BackupMedium::cut(const QString& name, qint64 size)
+{
+    if (QFile* file = openFile(name); file && file->size() > size) {
+        file->resize(size);
+        filesShrank();
+    }
+}
+
 void BackupMedium::remove(const QString& name)
 {
-    open_.erase(name.toLower());
-    const QString path = FindInFolder(folder_, name);
-    if (!path.isEmpty())
-        QFile::remove(path);
-    filesRemoved();
+    const QString key = name.toLower();
+    open_.erase(key);
+    if (const auto found = names().find(key); found != names().end()) {
+        QFile::remove(QDir(folder_).filePath(found->second));
+        names().erase(found);
+        filesShrank();
+    }
 }
 
 void BackupMedium::removeEndingIn(const QStringList& suffixes)
@@ -104,7 +126,13 @@ void BackupMedium::removeEndingIn(const QStringList& suffixes)
             }
         }
     }
-    filesRemoved();
+    names_.reset();
+    filesShrank();
+}
+
+void BackupMedium::close(const QString& name)
+{
+    open_.erase(name.toLower());
 }
 
 void BackupMedium::closeAll()
@@ -119,7 +147,7 @@ bool BackupMedium::allowsGrowth(qint64)
 
 void BackupMedium::grew(qint64) {}
 
-void BackupMedium::filesRemoved() {}
+void BackupMedium::filesShrank() {}
 
 LimitedMedium::LimitedMedium(QString folder, qint64 capacity)
     : BackupMedium(std::move(folder)), capacity_(capacity), used_(FolderBytes(this->folder()))
@@ -136,7 +164,7 @@ void LimitedMedium::grew(qint64 growth)
     used_ += growth;
 }
 
-void LimitedMedium::filesRemoved()
+void LimitedMedium::filesShrank()
 {
     used_ = FolderBytes(folder());
 }
@@ -163,7 +191,9 @@ CopyResult CopyOntoMedium(const QString& sourcePath, BackupMedium& medium, const
         if (held && copied)
             copied(done, size);
     }
-    if (!held)
+    if (held)
+        medium.close(name);
+    else
         medium.remove(name);
     return held ? CopyResult::Copied : CopyResult::Failed;
 }

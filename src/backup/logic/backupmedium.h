@@ -1,8 +1,9 @@
 #pragma once
 // Every write onto a backup medium (and, restoring, into the program folder)
 // goes through a BackupMedium: a folder whose files are found case-blind and
-// kept open between writes until closeAll(). A write either holds whole or
-// says it failed; on a real medium a full disk fails by itself.
+// kept open between writes until closed. A write either holds whole or says
+// it failed; on a real medium a full disk fails by itself. The medium keeps
+// its own list of the folder's names: nothing else writes there meanwhile.
 //
 // LimitedMedium is a medium of a fixed capacity, the way a floppy fills: a
 // write that would take the folder's bytes past the capacity fails before
@@ -14,6 +15,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 
 class BackupMedium {
 public:
@@ -31,23 +33,30 @@ public:
     // `bytes` at `offset` of the file `name`, created when missing.
     bool writeAt(const QString& name, qint64 offset, QByteArrayView bytes);
     bool append(const QString& name, QByteArrayView bytes);
+    // Cuts the file back to `size` bytes (a block that did not all arrive).
+    void cut(const QString& name, qint64 size);
     // Deleting a missing file is no failure.
     void remove(const QString& name);
     // Deletes every file whose name ends in one of `suffixes`, case-blind.
     void removeEndingIn(const QStringList& suffixes);
+    void close(const QString& name);
     void closeAll();
 
 protected:
     // Asked before a write that makes the folder `growth` bytes larger.
     virtual bool allowsGrowth(qint64 growth);
     virtual void grew(qint64 growth);
-    virtual void filesRemoved();
+    // Told when files were deleted or cut.
+    virtual void filesShrank();
 
 private:
     QFile* openFile(const QString& name);
+    // The folder's file names by their lower-case form, read once.
+    std::map<QString, QString>& names() const;
 
     QString folder_;
     std::map<QString, std::unique_ptr<QFile>> open_;
+    mutable std::optional<std::map<QString, QString>> names_;
 };
 
 class LimitedMedium final : public BackupMedium {
@@ -58,7 +67,7 @@ public:
 protected:
     bool allowsGrowth(qint64 growth) override;
     void grew(qint64 growth) override;
-    void filesRemoved() override;
+    void filesShrank() override;
 
 private:
     qint64 capacity_;

@@ -37,6 +37,11 @@ SpanLayout MenuPlanLayout(int year);
 SpanLayout OldRecipeLayout();
 SpanLayout LayoutOf(const BackupSet& set);
 
+// The highest record number the 22 name files of the cookbook list: the
+// count of records a recipe backup copies. A missing name file is created
+// empty, as opening a random file does.
+qint64 HighestListedRecord(int cookbook);
+
 // The record lengths of the first generation's recipe disks.
 inline constexpr int kOldRecipeRecord = 1545;
 inline constexpr int kOldExtraRecord = 250;

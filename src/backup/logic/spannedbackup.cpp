@@ -18,27 +18,10 @@ namespace {
 
 constexpr qint64 kReadBlock = 256;
 
-// The highest record number that a name file lists. The name files are
-// opened as random files: a missing one is created empty, and then copied.
-qint64 HighestListedRecord(const QStringList& nameFiles)
-{
-    qint64 highest = 0;
-    for (const QString& name : nameFiles) {
-        RandomAccessFile file(name, RecipeNameRecord::kSize);
-        const qint64 count = file.recordCount();
-        const QByteArray bytes = file.readRecords(1, count);
-        for (qint64 slot = 0; slot < count; ++slot) {
-            const QByteArrayView record(bytes.constData() + slot * RecipeNameRecord::kSize, RecipeNameRecord::kSize);
-            highest = std::max<qint64>(highest, RecordNumberOf(RecipeNameRecord::FromBytes(record).nameEntry()));
-        }
-    }
-    return highest;
-}
-
 qint64 SetTotal(const BackupSet& set, const SpanLayout& layout)
 {
     if (set.kind == BackupSetKind::Recipes)
-        return HighestListedRecord(layout.headFiles);
+        return HighestListedRecord(set.cookbook);
     const qint64 length = QFileInfo(FindInFolder(QDir::currentPath(), layout.streams.first().programName)).size();
     const int record = layout.streams.first().recordLength;
     return (length + record - 1) / record;
@@ -54,15 +37,17 @@ public:
         blocks_.resize(files_.size());
     }
 
-    QByteArrayView record(int stream, qint64 number)
+    // Records number..number+count-1 of a stream; `count` is at most a
+    // read block.
+    QByteArrayView records(int stream, qint64 number, qint64 count)
     {
-        if (number < first_ || number >= first_ + kReadBlock) {
+        if (number < first_ || number + count > first_ + kReadBlock) {
             first_ = number;
             for (std::size_t i = 0; i < files_.size(); ++i)
                 blocks_[i] = files_[i]->readRecords(number, kReadBlock);
         }
         const int length = files_[stream]->recordLength();
-        return QByteArrayView(blocks_[stream]).sliced((number - first_) * length, length);
+        return QByteArrayView(blocks_[stream]).sliced((number - first_) * length, count * length);
     }
 
 private:
@@ -128,13 +113,22 @@ private:
             medium.remove(name);
     }
 
-    bool writeRecord(qint64 number, qint64 place)
+    // Records number..number+count-1 as the medium's records from `place`
+    // on, one write per file. When a file refuses them, what the other files
+    // took of them is cut off again, so that the medium holds whole records
+    // only and its free room is as before.
+    bool writeRecords(qint64 number, qint64 place, qint64 count)
     {
         for (int i = 0; i < layout_.streams.size(); ++i) {
             const RecordStream& stream = layout_.streams[i];
             if (!media_.medium->writeAt(stream.mediumName(disk_), (place - 1) * stream.recordLength,
-                                        source_->record(i, number)))
+                                        source_->records(i, number, count))) {
+                for (int j = 0; j < i; ++j) {
+                    const RecordStream& taken = layout_.streams[j];
+                    media_.medium->cut(taken.mediumName(disk_), (place - 1) * taken.recordLength);
+                }
                 return false;
+            }
         }
         return true;
     }
@@ -167,21 +161,32 @@ private:
         return true;
     }
 
+    // Records go a read block at a time; a block that does not fit goes
+    // record by record up to the one that fails, where the medium changes.
     bool copyRecords()
     {
         source_ = std::make_unique<RecordSource>(layout_.streams);
         context_.progress.showBar(total_);
         qint64 count = 0;
         for (qint64 number = 1; number <= total_;) {
-            ++count;
-            if (writeRecord(number, count)) {
-                context_.progress.setBar(number);
-                ++number;
+            const qint64 block = std::min(kReadBlock, total_ - number + 1);
+            if (block > 1 && writeRecords(number, count + 1, block)) {
+                count += block;
+                number += block;
+                context_.progress.setBar(number - 1);
                 continue;
             }
-            if (!changeMedium(count - 1))
-                return false;
-            count = 0;
+            const qint64 end = number + block;
+            while (number < end && writeRecords(number, count + 1, 1)) {
+                ++count;
+                context_.progress.setBar(number);
+                ++number;
+            }
+            if (number < end) {
+                if (!changeMedium(count))
+                    return false;
+                count = 0;
+            }
         }
         const bool held = WriteDiskInfo(*media_.medium, layout_.infoFile, infoOf(disk_, count));
         media_.medium->closeAll();
@@ -198,6 +203,21 @@ private:
 };
 
 } // namespace
+
+qint64 HighestListedRecord(int cookbook)
+{
+    qint64 highest = 0;
+    for (const QString& name : RecipeLayout(cookbook).headFiles) {
+        RandomAccessFile file(name, RecipeNameRecord::kSize);
+        const qint64 count = file.recordCount();
+        const QByteArray bytes = file.readRecords(1, count);
+        for (qint64 slot = 0; slot < count; ++slot) {
+            const QByteArrayView record(bytes.constData() + slot * RecipeNameRecord::kSize, RecipeNameRecord::kSize);
+            highest = std::max<qint64>(highest, RecordNumberOf(RecipeNameRecord::FromBytes(record).nameEntry()));
+        }
+    }
+    return highest;
+}
 
 RunEnd BackupSpannedSet(const BackupSet& set, BackupContext& context)
 {
