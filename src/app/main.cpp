@@ -1,4 +1,5 @@
 // Brindlepot: a kitchen program for the family.
+#include "backup/screens/backup1.h"
 #include "common/programfolder.h"
 #include "guides/screens/convform.h"
 #include "guides/screens/foodg.h"
@@ -42,12 +43,28 @@ int main(int argc, char** argv)
     SystemScreenMetrics screen;
     Startfrm startfrm(dialogs, screen);
     QObject::connect(&instance, &SingleInstance::raiseRequested, &startfrm, &Startfrm::bringForward);
-    startfrm.registerActivity(MainCommand::RecipeFiles, [&dialogs] { return new Form5(dialogs); });
+    // The screens with backup commands open Backup1 through one routine.
+    startfrm.registerActivity(MainCommand::RecipeFiles, [&dialogs] {
+        auto* form = new Form5(dialogs);
+        form->setBackupOpener([form, &dialogs](int mode, int cookbook) {
+            return RunBackup1(form, dialogs, mode, {cookbook, 0});
+        });
+        return form;
+    });
     startfrm.registerActivity(MainCommand::FoodGuide, [&dialogs] { return new Foodg(dialogs); });
     startfrm.registerActivity(MainCommand::MeasGuide, [&dialogs] { return new Convform(dialogs); });
-    startfrm.registerActivity(MainCommand::Emergency,
-                              [&dialogs] { return new Form24(dialogs, StorageKind::Emergency); });
-    startfrm.registerActivity(MainCommand::MenuPlanner, [&dialogs] { return new Zcalandar(dialogs); });
+    startfrm.registerActivity(MainCommand::Emergency, [&dialogs] {
+        auto* form = new Form24(dialogs, StorageKind::Emergency);
+        form->setBackupOpener([form, &dialogs](int mode) { RunBackup1(form, dialogs, mode, {}); });
+        return form;
+    });
+    startfrm.registerActivity(MainCommand::MenuPlanner, [&dialogs] {
+        auto* planner = new Zcalandar(dialogs);
+        planner->setBackupOpener([planner, &dialogs](int mode, int year) {
+            RunBackup1(planner, dialogs, mode, {1, year});
+        });
+        return planner;
+    });
     startfrm.registerActivity(MainCommand::ShoppingList, [&dialogs] { return new Shoplist(dialogs); });
     startfrm.registerActivity(MainCommand::WeightTracker, [&dialogs] { return new WeightTracker(dialogs); });
     QObject::connect(&startfrm, &Startfrm::exitConfirmed, &app, [] { QApplication::exit(0); });

@@ -11,6 +11,7 @@
 
 #include "shell/kit/activitywindow.h"
 
+#include <functional>
 #include <optional>
 
 class AdditionalRecipesPanel;
@@ -41,6 +42,12 @@ class Form5 final : public ActivityWindow {
     Q_OBJECT
 public:
     static constexpr int kHelpTopic = 1010;
+    // The backup screen's modes for the recipes of a cookbook.
+    static constexpr int kBackupRecipesMode = 0;
+    static constexpr int kRestoreRecipesMode = 1;
+    // Opens the backup screen modally in a mode for a cookbook; true when a
+    // restore completed and the cookbook's files were replaced.
+    using BackupOpener = std::function<bool(int mode, int cookbook)>;
 
     explicit Form5(Dialogs& dialogs, QWidget* parent = nullptr);
     ~Form5() override;
@@ -61,6 +68,9 @@ public:
     AdditionalRecipesPanel* additionalRecipesPanel() const { return additionalRecipes_; }
     ConversionPanel* conversionPanel() const { return conversionPanel_; }
     bool conversionPending() const { return model_.conversionPending(); }
+    // Backup and restore of the cookbook go through `opener`; without one
+    // both entries stay off.
+    void setBackupOpener(BackupOpener opener);
     // Where the printout's date comes from; the system clock unless a test says.
     void setClock(const Clock& clock) { clock_ = &clock; }
 
@@ -79,6 +89,9 @@ private:
     void loadCookbook();
     void showCookbook();
     void selectCookbook(int cookbook);
+    void reopenCookbook(bool calculatorOpen);
+    void backupCookbook();
+    void restoreCookbook();
     void openTitles();
     void saveTitles(const QStringList& titles);
     void closeTitles();
@@ -159,6 +172,7 @@ private:
     RecipePrintOptions* printOptions_ = nullptr;
     AdditionalRecipesPanel* additionalRecipes_ = nullptr;
     const Clock* clock_ = nullptr;
+    BackupOpener backupOpener_;
     QLabel* titleStrip_ = nullptr;           // SSPanel4
     QGridLayout* commandGrid_ = nullptr;
     int buttonsPerRow_ = 0;

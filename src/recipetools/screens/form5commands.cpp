@@ -30,8 +30,8 @@ constexpr const char* kCookbookNames[kCookbookCount] = {"mCookbook1", "mCookbook
 
 } // namespace
 
-// Spelling, copy, export, import, backup and restore come with tools of
-// their own; until then their rows have no routine and stay disabled.
+// Spelling, copy, export and import come with tools of their own; until
+// then their rows have no routine and stay disabled.
 std::vector<CommandRow<Form5Command>> Form5::commandRows()
 {
     using enum Form5Command;
@@ -90,8 +90,11 @@ std::vector<CommandRow<Form5Command>> Form5::commandRows()
         {Titles, {.name = "mTitles", .menu = "mOptions", .caption = "Cookbook &Titles", .toolbar = {Toolbar::Side, 1},
                   .run = [this] { openTitles(); }, .enabled = rule(&RecipeCommandStates::cookbookMenus)}},
         {PanelColor, panelColorCommand("mOptions")},
-        {Backup, {.name = "mBackup", .menu = "mUtilities", .caption = "&Backup Recipes to Disk"}},
-        {Restore, {.name = "mRestore", .menu = "mUtilities", .caption = "&Restore Recipes from Disk"}},
+        // Their routines come with the backup screen (setBackupOpener).
+        {Backup, {.name = "mBackup", .menu = "mUtilities", .caption = "&Backup Recipes to Disk",
+                  .enabled = rule(&RecipeCommandStates::cookbookMenus)}},
+        {Restore, {.name = "mRestore", .menu = "mUtilities", .caption = "&Restore Recipes from Disk",
+                   .enabled = rule(&RecipeCommandStates::cookbookMenus)}},
         {Help, helpCommand("mHelpMenu", QStringLiteral("Recipe File &Help"))},
     });
     return rows;

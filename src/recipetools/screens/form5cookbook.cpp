@@ -44,6 +44,12 @@ void Form5::selectCookbook(int cookbook)
         showCookbook();
         return;
     }
+    reopenCookbook(calculatorOpen);
+}
+
+// The screen starts afresh on the current cookbook, as after choosing it.
+void Form5::reopenCookbook(bool calculatorOpen)
+{
     // Nothing is left under the calculator to rescale.
     if (calculatorOpen)
         calculator_->hide();
@@ -107,4 +113,28 @@ bool Form5::convertPendingOldDatabase(Form5Command trigger)
         return false;
     }
     return true;
+}
+
+void Form5::setBackupOpener(BackupOpener opener)
+{
+    backupOpener_ = std::move(opener);
+    commands_->setRoutine(Form5Command::Backup, [this] { backupCookbook(); });
+    commands_->setRoutine(Form5Command::Restore, [this] { restoreCookbook(); });
+    applyCommandStates();
+}
+
+void Form5::backupCookbook()
+{
+    backupOpener_(kBackupRecipesMode, cookbook());
+}
+
+// A restore replaces the cookbook's files: unsaved work is asked about
+// first, and the screen opens the cookbook again afterwards.
+void Form5::restoreCookbook()
+{
+    if (!saveQuestionAllowsAction())
+        return;
+    const bool calculatorOpen = model_.state().panel == RecipePanel::Calculator;
+    if (backupOpener_(kRestoreRecipesMode, cookbook()))
+        reopenCookbook(calculatorOpen);
 }

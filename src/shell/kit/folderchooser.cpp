@@ -227,12 +227,10 @@ void FolderChooserPanel::driveChosen(int index)
 {
     if (index < 0 || index >= int(drives_.size()))
         return;
-    const QFileInfo root(drives_[index].rootPath);
-    if (root.isDir() && root.isReadable() && root.isExecutable()) {
+    if (driveReadable(drives_[index].rootPath)) {
         setFolder(drives_[index].rootPath);
         return;
     }
-    // A volume gone or closed to the user: back to "C:".
     setFolder(QDir::homePath());
     driveList_->setCurrentIndex(DriveOf(drives_, folder_));
     emit driveUnavailable();
@@ -256,6 +254,12 @@ void FolderChooserPanel::selectPendingFile()
     fileList_->setCurrentIndex(index);
     fileList_->scrollTo(index);
     pendingFile_.clear();
+}
+
+bool FolderChooserPanel::driveReadable(const QString& rootPath) const
+{
+    const QFileInfo root(rootPath);
+    return root.isDir() && root.isReadable() && QDir(rootPath).exists();
 }
 
 void FolderChooserPanel::enterFolder(const QModelIndex& index)

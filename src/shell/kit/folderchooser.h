@@ -53,8 +53,8 @@ signals:
     void fileSelected(const QString& path);
     // A double click or Enter on a file.
     void fileActivated(const QString& path);
-    // A drive picked in the drive list could not be read; the lists are
-    // back on "C:".
+    // A drive was picked whose root cannot be read (a card reader without a
+    // card, a share gone away); the lists went back to "C:".
     void driveUnavailable();
 
 protected:
@@ -65,6 +65,8 @@ private:
     class FileEntries;
 
     void driveChosen(int index);
+    // Whether a drive's root can be listed.
+    bool driveReadable(const QString& rootPath) const;
     void enterFolder(const QModelIndex& index);
     void selectPendingFile();
     QString filePathOf(const QModelIndex& fileIndex) const;
