@@ -11,6 +11,9 @@
 #include "shell/screens/backgroundselector.h"
 #include "shopping/screens/amountpanel.h"
 
+#include <QHeaderView>
+#include <QTableWidget>
+
 class ShoplistFitTest : public ShoplistSelectTest {
 protected:
     std::unique_ptr<Shoplist> openSmall()
@@ -26,6 +29,19 @@ TEST_F(ShoplistFitTest, TheScreenFitsAWindowOf800By600)
 {
     auto form = openSmall();
     EXPECT_EQ(FitProblemsAtBothSizes(form.get()), "");
+}
+
+TEST_F(ShoplistFitTest, BothHeadingsOfTheGridShowWholeAt800By600)
+{
+    auto form = openSmall();
+    form->show();
+    form->resize(800, 600);
+    QCoreApplication::processEvents();
+    auto* grid = form->findChild<QTableWidget*>(QStringLiteral("VSFlexGrid1"));
+    ASSERT_NE(grid, nullptr);
+    const QFontMetrics heading(grid->horizontalHeader()->font());
+    EXPECT_GE(grid->columnWidth(0), heading.horizontalAdvance(QStringLiteral("Grocery Item")));
+    EXPECT_GE(grid->columnWidth(1), heading.horizontalAdvance(QStringLiteral("Amount to Purchase")));
 }
 
 TEST_F(ShoplistFitTest, TheAmountPanelFits)

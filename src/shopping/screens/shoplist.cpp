@@ -24,6 +24,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QStackedWidget>
 #include <QStringListModel>
 #include <QVBoxLayout>
@@ -204,6 +205,13 @@ void Shoplist::buildGrid(QWidget* parent)
     grid_->horizontalHeader()->setDefaultAlignment(Qt::AlignCenter);
     grid_->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     grid_->horizontalHeader()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+    // Narrow windows keep both headings whole: the grid is never narrower
+    // than they are.
+    const QFontMetrics heading(grid_->horizontalHeader()->font());
+    constexpr int kHeadingRoom = 24;
+    grid_->setMinimumWidth(heading.horizontalAdvance(QStringLiteral("Grocery Item")) + kHeadingRoom
+                           + heading.horizontalAdvance(QStringLiteral("Amount to Purchase")) + kHeadingRoom
+                           + grid_->verticalScrollBar()->sizeHint().width() + 2 * grid_->frameWidth());
     grid_->setHeaderSort(true, {}, [this](int, Qt::SortOrder) { headerSorted(); });
     grid_->setRowTip([this](int row) {
         return QStringLiteral(" Row %1: %2 ").arg(row + 1).arg(grid_->text(row, 0));
